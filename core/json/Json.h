@@ -1,0 +1,313 @@
+#pragma once
+
+// Strict reading and plain writing of wire records.
+//
+// A record declares its fields once with VL_JSON_FIELDS (JSON key = member name) or, where a key
+// differs from the member, with a hand-written jsonFields() built from vl::json::field(). The one
+// generic reader below then serves every record: a required field that is missing, null or of
+// another type fails the whole value; a std::optional field may be absent or null but not of
+// another type; keys the record does not know are ignored; integers must be whole numbers.
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QLatin1StringView>
+#include <QString>
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <map>
+#include <optional>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace vl::json {
+
+template <class Owner, class Member>
+struct Field {
+    const char* key;
+    Member Owner::*member;
+};
+
+template <class Owner, class Member>
+constexpr Field<Owner, Member> field(const char* key, Member Owner::*member)
+{
+    return {key, member};
+}
+
+template <class T>
+concept Record = requires { T::jsonFields(); };
+
+template <class T>
+struct IsOptional : std::false_type {};
+template <class T>
+struct IsOptional<std::optional<T>> : std::true_type {};
+
+// Codec<T>::read(value, out) -> bool and Codec<T>::write(value) -> QJsonValue.
+template <class T>
+struct Codec;
+
+template <>
+struct Codec<bool> {
+    static bool read(const QJsonValue& v, bool& out)
+    {
+        if (!v.isBool())
+            return false;
+        out = v.toBool();
+        return true;
+    }
+    static QJsonValue write(bool v) { return v; }
+};
+
+template <class Int>
+    requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>)
+struct Codec<Int> {
+    static bool read(const QJsonValue& v, Int& out)
+    {
+        if (!v.isDouble())
+            return false;
+        const double d = v.toDouble();
+        if (std::floor(d) != d || d < double(std::numeric_limits<Int>::min()) ||
+            d > double(std::numeric_limits<Int>::max()))
+            return false;
+        out = Int(v.toInteger());
+        return true;
+    }
+    static QJsonValue write(Int v) { return qint64(v); }
+};
+
+template <>
+struct Codec<double> {
+    static bool read(const QJsonValue& v, double& out)
+    {
+        if (!v.isDouble())
+            return false;
+        out = v.toDouble();
+        return true;
+    }
+    static QJsonValue write(double v) { return v; }
+};
+
+template <>
+struct Codec<QString> {
+    static bool read(const QJsonValue& v, QString& out)
+    {
+        if (!v.isString())
+            return false;
+        out = v.toString();
+        return true;
+    }
+    static QJsonValue write(const QString& v) { return v; }
+};
+
+// Any JSON at all, kept as it came: for fields whose shape is the service's free choice.
+template <>
+struct Codec<QJsonValue> {
+    static bool read(const QJsonValue& v, QJsonValue& out)
+    {
+        out = v;
+        return true;
+    }
+    static QJsonValue write(const QJsonValue& v) { return v; }
+};
+
+template <class T>
+struct Codec<std::optional<T>> {
+    static bool read(const QJsonValue& v, std::optional<T>& out)
+    {
+        if (v.isNull() || v.isUndefined()) {
+            out.reset();
+            return true;
+        }
+        T value{};
+        if (!Codec<T>::read(v, value))
+            return false;
+        out = std::move(value);
+        return true;
+    }
+    static QJsonValue write(const std::optional<T>& v)
+    {
+        return v ? Codec<T>::write(*v) : QJsonValue(QJsonValue::Null);
+    }
+};
+
+template <class T>
+struct Codec<std::vector<T>> {
+    static bool read(const QJsonValue& v, std::vector<T>& out)
+    {
+        if (!v.isArray())
+            return false;
+        const QJsonArray array = v.toArray();
+        out.clear();
+        out.reserve(std::size_t(array.size()));
+        for (const auto& item : array) {
+            T value{};
+            if (!Codec<T>::read(item, value))
+                return false;
+            out.push_back(std::move(value));
+        }
+        return true;
+    }
+    static QJsonValue write(const std::vector<T>& v)
+    {
+        QJsonArray array;
+        for (const auto& item : v)
+            array.append(Codec<T>::write(item));
+        return array;
+    }
+};
+
+template <class T>
+struct Codec<std::map<QString, T>> {
+    static bool read(const QJsonValue& v, std::map<QString, T>& out)
+    {
+        if (!v.isObject())
+            return false;
+        const QJsonObject object = v.toObject();
+        out.clear();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            T value{};
+            if (!Codec<T>::read(it.value(), value))
+                return false;
+            out.emplace(it.key(), std::move(value));
+        }
+        return true;
+    }
+    static QJsonValue write(const std::map<QString, T>& v)
+    {
+        QJsonObject object;
+        for (const auto& [key, value] : v)
+            object.insert(key, Codec<T>::write(value));
+        return object;
+    }
+};
+
+template <Record T>
+struct Codec<T> {
+    static bool read(const QJsonValue& v, T& out)
+    {
+        if (!v.isObject())
+            return false;
+        const QJsonObject object = v.toObject();
+        return std::apply(
+            [&](const auto&... fields) { return (readField(object, fields, out) && ...); },
+            T::jsonFields());
+    }
+
+    static QJsonValue write(const T& v)
+    {
+        QJsonObject object;
+        std::apply(
+            [&](const auto&... fields) {
+                (object.insert(QLatin1StringView(fields.key), Codec<std::remove_cvref_t<
+                                   decltype(v.*(fields.member))>>::write(v.*(fields.member))),
+                 ...);
+            },
+            T::jsonFields());
+        return object;
+    }
+
+private:
+    template <class Member>
+    static bool readField(const QJsonObject& object, const Field<T, Member>& field, T& out)
+    {
+        const QJsonValue value = object.value(QLatin1StringView(field.key));
+        if constexpr (!IsOptional<Member>::value) {
+            if (value.isUndefined() || value.isNull())
+                return false;
+        }
+        return Codec<Member>::read(value, out.*(field.member));
+    }
+};
+
+// Reads a whole value strictly; nothing when any part of it does not fit.
+template <class T>
+std::optional<T> read(const QJsonValue& value)
+{
+    T out{};
+    if (!Codec<T>::read(value, out))
+        return std::nullopt;
+    return out;
+}
+
+// Parses bytes and reads them as T. Only a JSON object or array can stand at the top.
+template <class T>
+std::optional<T> decode(const QByteArray& bytes)
+{
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        return std::nullopt;
+    if (document.isObject())
+        return read<T>(document.object());
+    if (document.isArray())
+        return read<T>(document.array());
+    return std::nullopt;
+}
+
+template <class T>
+QJsonValue write(const T& value)
+{
+    return Codec<T>::write(value);
+}
+
+// The compact JSON text of a value, for bodies and for printing.
+template <class T>
+QByteArray encode(const T& value)
+{
+    const QJsonValue json = write(value);
+    if (json.isArray())
+        return QJsonDocument(json.toArray()).toJson(QJsonDocument::Compact);
+    return QJsonDocument(json.toObject()).toJson(QJsonDocument::Compact);
+}
+
+// Hashing over every field, for records that a list diffs by value.
+template <class T>
+std::size_t hashValue(const T& value, std::size_t seed = 0)
+{
+    if constexpr (Record<T>) {
+        std::apply([&](const auto&... fields) { ((seed = hashValue(value.*(fields.member), seed)), ...); },
+                   T::jsonFields());
+        return seed;
+    } else if constexpr (IsOptional<T>::value) {
+        return value ? hashValue(*value, qHash(1, seed)) : qHash(0, seed);
+    } else if constexpr (requires { value.begin(); value.end(); } && !std::is_same_v<T, QString>) {
+        for (const auto& item : value)
+            seed = hashValue(item, seed);
+        return seed;
+    } else if constexpr (std::is_same_v<T, QJsonValue>) {
+        return qHash(QJsonDocument(value.toObject()).toJson(), seed);
+    } else {
+        return qHash(value, seed);
+    }
+}
+
+} // namespace vl::json
+
+// VL_JSON_FIELDS(Type, a, b, c) declares the fields a, b, c of Type under the JSON keys "a", "b",
+// "c", in that order.
+#define VL_JSON_PARENS ()
+#define VL_JSON_EXPAND(...) VL_JSON_EXPAND3(VL_JSON_EXPAND3(VL_JSON_EXPAND3(__VA_ARGS__)))
+#define VL_JSON_EXPAND3(...) VL_JSON_EXPAND2(VL_JSON_EXPAND2(VL_JSON_EXPAND2(__VA_ARGS__)))
+#define VL_JSON_EXPAND2(...) VL_JSON_EXPAND1(VL_JSON_EXPAND1(VL_JSON_EXPAND1(__VA_ARGS__)))
+#define VL_JSON_EXPAND1(...) __VA_ARGS__
+#define VL_JSON_FOR_EACH(macro, ...)                                                               \
+    __VA_OPT__(VL_JSON_EXPAND(VL_JSON_FOR_EACH_HELPER(macro, __VA_ARGS__)))
+#define VL_JSON_FOR_EACH_HELPER(macro, a1, ...)                                                    \
+    macro(a1) __VA_OPT__(, VL_JSON_FOR_EACH_AGAIN VL_JSON_PARENS(macro, __VA_ARGS__))
+#define VL_JSON_FOR_EACH_AGAIN() VL_JSON_FOR_EACH_HELPER
+#define VL_JSON_FIELD(name) ::vl::json::field(#name, &Self::name)
+#define VL_JSON_FIELDS(Type, ...)                                                                  \
+    static constexpr auto jsonFields()                                                             \
+    {                                                                                              \
+        using Self = Type;                                                                         \
+        return std::make_tuple(VL_JSON_FOR_EACH(VL_JSON_FIELD, __VA_ARGS__));                      \
+    }
+#define VL_JSON_NO_FIELDS                                                                          \
+    static constexpr auto jsonFields() { return std::tuple<>{}; }
