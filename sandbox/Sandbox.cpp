@@ -1,0 +1,46 @@
+#include "sandbox/Sandbox.h"
+
+#include "sandbox/routes/ConfigRoutes.h"
+#include "sandbox/routes/DevRoutes.h"
+
+#include <QTextStream>
+
+namespace vl {
+
+Sandbox::Sandbox(SandboxOptions options)
+    : m_options(std::move(options))
+    , m_clock(m_options.now)
+    , m_outbox(m_clock)
+    , m_context{m_store, m_clock, m_outbox, m_requests, m_faults, m_options}
+    , m_server(m_router, m_requests, m_faults) {}
+
+bool Sandbox::start() {
+    if (!m_store.open(m_options.database))
+        return false;
+    if (m_store.needsSeed())
+        seed();
+    installRoutes();
+    const quint16 port = m_server.start(m_options.port);
+    if (port == 0) {
+        QTextStream(stderr) << "velmora-sandbox: cannot listen on 127.0.0.1:" << m_options.port
+                            << '\n';
+        return false;
+    }
+    QTextStream out(stdout);
+    out << "velmora-sandbox listening on http://127.0.0.1:" << port << '\n';
+    out.flush();
+    return true;
+}
+
+void Sandbox::seed() {
+    m_store.begin();
+    m_store.markSeeded();
+    m_store.commit();
+}
+
+void Sandbox::installRoutes() {
+    DevRoutes::install(m_router, m_context);
+    ConfigRoutes::install(m_router, m_context);
+}
+
+} // namespace vl

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QStringList>
+
+namespace vl::Schema {
+
+// The CREATE statements of every table, safe to run on an existing database.
+QStringList statements();
+
+} // namespace vl::Schema
