@@ -1,7 +1,41 @@
-#include <QCoreApplication>
+#include "app/cli/ApiCommand.h"
+#include "app/cli/CliOutput.h"
+#include "app/cli/ShellCommands.h"
+#include "app/shell/AppContext.h"
 
-int main(int argc, char** argv)
-{
+#include <QCoreApplication>
+#include <QTimer>
+
+namespace {
+
+QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args) {
+    using namespace vl::cli;
+    co_await context.start();
+    const QString command = args.isEmpty() ? QString() : args.takeFirst();
+    if (command == QLatin1StringView("api"))
+        co_return co_await runApi(context, args);
+    if (command == QLatin1StringView("boot"))
+        co_return co_await runBoot(context);
+    if (command == QLatin1StringView("lang"))
+        co_return runLang(context, args);
+    if (command == QLatin1StringView("employer"))
+        co_return co_await runEmployer(context, args);
+    co_return printUsage(QStringLiteral("usage: velmora-cli api|boot|lang|employer ..."));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
-    return 0;
+    QCoreApplication::setOrganizationName(QStringLiteral("velmora"));
+    QCoreApplication::setApplicationName(QStringLiteral("velmora"));
+    vl::AppContext context(vl::AppContext::linuxBindings());
+    QStringList args = QCoreApplication::arguments().mid(1);
+    QTimer::singleShot(0, &app, [&context, args] {
+        dispatch(context, args).then([](int code) {
+            QMetaObject::invokeMethod(
+                qApp, [code] { QCoreApplication::exit(code); }, Qt::QueuedConnection);
+        });
+    });
+    return app.exec();
 }

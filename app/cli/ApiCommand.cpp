@@ -1,0 +1,102 @@
+#include "app/cli/ApiCommand.h"
+
+#include "app/cli/CliOutput.h"
+#include "app/shell/AppContext.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <functional>
+
+namespace vl::cli {
+
+namespace {
+
+using JsonResult = Result<QJsonValue>;
+using Args = QJsonObject;
+
+template <class T>
+QCoro::Task<JsonResult> asJson(QCoro::Task<Result<T>> task) {
+    const auto result = co_await std::move(task);
+    if (!result)
+        co_return result.error();
+    co_return json::write(result.value());
+}
+
+template <class T>
+QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task) {
+    const auto result = co_await std::move(task);
+    if (!result)
+        co_return result.error();
+    co_return QJsonObject{{QStringLiteral("items"), json::write(result->items)},
+                          {QStringLiteral("meta"), json::write(result->meta)}};
+}
+
+QString text(const Args& args, const char* name) {
+    return args.value(QLatin1StringView(name)).toString();
+}
+
+struct Operation {
+    const char* method;
+    const char* path;
+    std::function<QCoro::Task<JsonResult>(AppContext&, const Args&)> run;
+};
+
+const std::vector<Operation>& operations() {
+    static const std::vector<Operation> all{
+        {"GET", "config",
+         [](AppContext& c, const Args&) { return asJson(c.api().config(nullptr)); }},
+        {"GET", "me", [](AppContext& c, const Args&) { return asJson(c.api().me(nullptr)); }},
+        {"POST", "me",
+         [](AppContext& c, const Args& a) {
+             return asJson(
+                 c.api().updateMe(text(a, "name"), text(a, "website"), text(a, "phone"), nullptr));
+         }},
+        {"DELETE", "me",
+         [](AppContext& c, const Args&) { return asJson(c.api().deleteMe(nullptr)); }},
+        {"POST", "auth/request",
+         [](AppContext& c, const Args& a) {
+             const Lang locale = langFromRaw(text(a, "locale")).value_or(c.appState.lang());
+             return asJson(c.api().authRequest(text(a, "email"), locale, nullptr));
+         }},
+        {"POST", "auth/verify",
+         [](AppContext& c, const Args& a) {
+             return asJson(c.api().authVerify(text(a, "email"), text(a, "code"), nullptr));
+         }},
+        {"POST", "auth/logout",
+         [](AppContext& c, const Args& a) {
+             return asJson(c.api().authLogout(text(a, "pushToken"), text(a, "voipToken"), nullptr));
+         }},
+    };
+    return all;
+}
+
+} // namespace
+
+QCoro::Task<int> runApi(AppContext& context, QStringList args) {
+    if (args.size() < 2 || args.size() > 3)
+        co_return printUsage(QStringLiteral("usage: velmora-cli api METHOD PATH [JSON]"));
+    const QString method = args[0].toUpper();
+    const QString path = args[1];
+    QJsonObject arguments;
+    if (args.size() == 3) {
+        QJsonParseError error{};
+        const QJsonDocument document = QJsonDocument::fromJson(args[2].toUtf8(), &error);
+        if (error.error != QJsonParseError::NoError || !document.isObject())
+            co_return printUsage(
+                QStringLiteral("velmora-cli api: the arguments must be a JSON object"));
+        arguments = document.object();
+    }
+    for (const Operation& operation : operations()) {
+        if (method != QLatin1StringView(operation.method) ||
+            path != QLatin1StringView(operation.path))
+            continue;
+        const auto result = co_await operation.run(context, arguments);
+        if (!result)
+            co_return printError(result.error(), context.appState.lang());
+        printJson(result.value());
+        co_return 0;
+    }
+    co_return printUsage(QStringLiteral("velmora-cli api: no operation %1 %2").arg(method, path));
+}
+
+} // namespace vl::cli

@@ -1,0 +1,180 @@
+#include "app/service/APIClient.h"
+
+#include "core/service/JsonBody.h"
+
+#include <QNetworkAccessManager>
+
+namespace vl {
+
+namespace {
+
+struct ReplyDeleter {
+    void operator()(QNetworkReply* reply) const { reply->deleteLater(); }
+};
+
+bool tagged(APIClient::Shape shape) {
+    using Shape = APIClient::Shape;
+    return shape == Shape::taggedRead || shape == Shape::jsonWrite || shape == Shape::deleteCall ||
+           shape == Shape::multipartWrite;
+}
+
+bool writes(APIClient::Shape shape) {
+    using Shape = APIClient::Shape;
+    return shape == Shape::jsonWrite || shape == Shape::deleteCall ||
+           shape == Shape::multipartWrite;
+}
+
+} // namespace
+
+APIClient::APIClient(QNetworkAccessManager* session, const QString& site, TokenSource token)
+    : m_session(session)
+    , m_site(site.endsWith(QLatin1Char('/')) ? site.chopped(1) : site)
+    , m_base(m_site + QStringLiteral("/api/app/v1"))
+    , m_token(std::move(token)) {}
+
+QUrl APIClient::url(const QString& path, const Query& query) const {
+    QUrl result = path.startsWith(QLatin1StringView("/api/"))
+                      ? QUrl(m_site + path)
+                      : QUrl(m_base.toString() + QLatin1Char('/') + path);
+    if (!query.empty()) {
+        QUrlQuery items;
+        for (const auto& [key, value] : query)
+            items.addQueryItem(key,
+                               QString(value).replace(QLatin1Char('+'), QStringLiteral("%2B")));
+        result.setQuery(items);
+    }
+    Q_ASSERT(result.isValid());
+    return result;
+}
+
+QNetworkRequest APIClient::buildRequest(const Request& request) const {
+    QNetworkRequest out(url(request.path, request.query));
+    out.setTransferTimeout(request.timeoutMs);
+    out.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                     QNetworkRequest::NoLessSafeRedirectPolicy);
+    if (request.fresh)
+        out.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
+                         QNetworkRequest::AlwaysNetwork);
+    if (tagged(request.shape))
+        out.setRawHeader("x-vl-client", "ios");
+    if (writes(request.shape))
+        out.setRawHeader("Origin", m_site.toUtf8());
+
+    const bool mayCarryToken = request.shape == Shape::bearerRead || writes(request.shape);
+    if (mayCarryToken) {
+        const std::optional<QString> token = request.token ? request.token : m_token();
+        if (token || request.bearerAlways)
+            out.setRawHeader("Authorization", "Bearer " + token.value_or(QString()).toUtf8());
+    }
+    if (!request.contentType.isEmpty())
+        out.setRawHeader("Content-Type", request.contentType);
+    return out;
+}
+
+QNetworkReply* APIClient::send(const Request& request, QObject* owner) const {
+    Q_ASSERT(m_session);
+    const QNetworkRequest built = buildRequest(request);
+    QNetworkReply* reply = nullptr;
+    switch (request.shape) {
+    case Shape::plainRead:
+    case Shape::taggedRead:
+    case Shape::bearerRead:
+        reply = m_session->get(built);
+        break;
+    case Shape::jsonWrite:
+    case Shape::multipartWrite:
+        reply = m_session->post(built, request.body);
+        break;
+    case Shape::deleteCall:
+        reply = m_session->deleteResource(built);
+        break;
+    }
+    if (owner)
+        QObject::connect(owner, &QObject::destroyed, reply, &QNetworkReply::abort);
+    return reply;
+}
+
+QCoro::Task<APIClient::Exchange> APIClient::exchange(Request request, QObject* owner) const {
+    std::unique_ptr<QNetworkReply, ReplyDeleter> reply(send(request, owner));
+    co_await reply.get();
+    const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    if (!status.isValid())
+        co_return Exchange{};
+    switch (reply->error()) {
+    case QNetworkReply::OperationCanceledError:
+    case QNetworkReply::TimeoutError:
+    case QNetworkReply::RemoteHostClosedError:
+        co_return Exchange{};
+    default:
+        break;
+    }
+    co_return Exchange{status.toInt(), reply->readAll()};
+}
+
+QCoro::Task<Result<QByteArray>> APIClient::bytes(Request request, QObject* owner) const {
+    auto [status, body] = co_await exchange(std::move(request), owner);
+    if (status < 0)
+        co_return APIError::network();
+    if (status < 200 || status > 299)
+        co_return APIError::http(status);
+    co_return std::move(body);
+}
+
+namespace {
+
+APIClient::Request jsonWrite(const QString& path, QByteArray body) {
+    return {.shape = APIClient::Shape::jsonWrite,
+            .path = path,
+            .body = std::move(body),
+            .contentType = "application/json"};
+}
+
+} // namespace
+
+QCoro::Task<Result<ConfigPayload>> APIClient::config(QObject* owner) const {
+    return call<ConfigPayload>({.shape = Shape::plainRead, .path = QStringLiteral("config")},
+                               owner);
+}
+
+QCoro::Task<Result<MePayload>> APIClient::me(QObject* owner) const {
+    return call<MePayload>({.shape = Shape::bearerRead, .path = QStringLiteral("me")}, owner);
+}
+
+QCoro::Task<Result<ProfilePayload>> APIClient::updateMe(QString name, QString website,
+                                                        QString phone, QObject* owner) const {
+    return call<ProfilePayload>(
+        jsonWrite(QStringLiteral("me"), stringBody({{QStringLiteral("name"), name},
+                                                    {QStringLiteral("website"), website},
+                                                    {QStringLiteral("phone"), phone}})),
+        owner);
+}
+
+QCoro::Task<Result<Nothing>> APIClient::deleteMe(QObject* owner) const {
+    return call<Nothing>({.shape = Shape::deleteCall, .path = QStringLiteral("me")}, owner);
+}
+
+QCoro::Task<Result<Nothing>> APIClient::authRequest(QString email, Lang locale,
+                                                    QObject* owner) const {
+    return call<Nothing>(jsonWrite(QStringLiteral("auth/request"),
+                                   stringBody({{QStringLiteral("email"), email},
+                                               {QStringLiteral("locale"), rawValue(locale)}})),
+                         owner);
+}
+
+QCoro::Task<Result<AuthVerifyPayload>> APIClient::authVerify(QString email, QString code,
+                                                             QObject* owner) const {
+    return call<AuthVerifyPayload>(
+        jsonWrite(QStringLiteral("auth/verify"),
+                  stringBody({{QStringLiteral("email"), email}, {QStringLiteral("code"), code}})),
+        owner);
+}
+
+QCoro::Task<Result<Nothing>> APIClient::authLogout(QString pushToken, QString voipToken,
+                                                   QObject* owner) const {
+    return call<Nothing>(jsonWrite(QStringLiteral("auth/logout"),
+                                   stringBody({{QStringLiteral("pushToken"), pushToken},
+                                               {QStringLiteral("voipToken"), voipToken}})),
+                         owner);
+}
+
+} // namespace vl

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "core/discovery/BoardSummary.h"
+#include "core/discovery/JobDetail.h"
+#include "core/discovery/JobSummary.h"
+#include "core/l10n/Lang.h"
+#include "core/service/Answer.h"
+#include "core/session/ConfigPayload.h"
+#include "core/session/MePayload.h"
+
+#include <QCoroNetworkReply>
+#include <QCoroTask>
+#include <QNetworkReply>
+#include <QPointer>
+#include <QUrl>
+#include <QUrlQuery>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+
+class QNetworkAccessManager;
+
+namespace vl {
+
+// The one typed path to the service's JSON API. A plain value: two addresses, the shared session
+// and a way to read the employer's token when a request is built. Every operation fails once, as
+// an APIError, and never retries.
+//
+// Each operation takes the object that owns the request: when the owner goes away the request
+// is aborted, and the operation ends as `network`, which the owner no longer hears.
+class APIClient {
+public:
+    using TokenSource = std::function<std::optional<QString>()>;
+    using Query = std::map<QString, QString>;
+
+    enum class Shape { plainRead, taggedRead, bearerRead, jsonWrite, deleteCall, multipartWrite };
+
+    struct Request {
+        Shape shape = Shape::plainRead;
+        QString path{};    // under `base`, or from the origin when it starts with "/api/"
+        Query query{};     // empty: no query at all
+        QByteArray body{}; // for the two write shapes
+        QByteArray contentType{};
+        bool fresh = false;             // bypass the shared cache
+        bool bearerAlways = false;      // send Authorization even without a token
+        std::optional<QString> token{}; // the job seeker's side passes its own
+        int timeoutMs = 60000;
+    };
+
+    static constexpr int defaultTimeoutMs = 60000;
+    static constexpr int uploadTimeoutMs = 90000;
+
+    APIClient(QNetworkAccessManager* session, const QString& site, TokenSource token);
+
+    const QUrl& base() const { return m_base; }
+    const QString& site() const { return m_site; }
+
+    QUrl url(const QString& path, const Query& query = {}) const;
+    QNetworkRequest buildRequest(const Request& request) const;
+    QNetworkReply* send(const Request& request, QObject* owner) const;
+
+    // An enveloped call whose `data` is a T.
+    template <class T>
+    QCoro::Task<Result<T>> call(Request request, QObject* owner) const {
+        const auto [status, body] = co_await exchange(std::move(request), owner);
+        if (status < 0)
+            co_return APIError::network();
+        co_return answer::read<T>(body, status);
+    }
+
+    // An enveloped list call: the rows and their paging.
+    template <class T>
+    QCoro::Task<Result<Page<T>>> list(Request request, QObject* owner) const {
+        const auto [status, body] = co_await exchange(std::move(request), owner);
+        if (status < 0)
+            co_return APIError::network();
+        co_return answer::readPage<T>(body, status);
+    }
+
+    // A chat send, read tolerantly: refusals carry the service's words.
+    template <class T>
+    QCoro::Task<Result<answer::ChatSendResult<T>>> chatSend(Request request, QObject* owner) const {
+        const auto [status, body] = co_await exchange(std::move(request), owner);
+        if (status < 0)
+            co_return APIError::network();
+        co_return answer::readChatSend<T>(body, status);
+    }
+
+    // The raw bytes of a read, for files: a status outside 200..299 is `http(status)`.
+    QCoro::Task<Result<QByteArray>> bytes(Request request, QObject* owner) const;
+
+    // Session and configuration.
+    QCoro::Task<Result<ConfigPayload>> config(QObject* owner) const;
+    QCoro::Task<Result<MePayload>> me(QObject* owner) const;
+    QCoro::Task<Result<ProfilePayload>> updateMe(QString name, QString website, QString phone,
+                                                 QObject* owner) const;
+    QCoro::Task<Result<Nothing>> deleteMe(QObject* owner) const;
+    QCoro::Task<Result<Nothing>> authRequest(QString email, Lang locale, QObject* owner) const;
+    QCoro::Task<Result<AuthVerifyPayload>> authVerify(QString email, QString code,
+                                                      QObject* owner) const;
+    QCoro::Task<Result<Nothing>> authLogout(QString pushToken, QString voipToken,
+                                            QObject* owner) const;
+
+private:
+    struct Exchange {
+        int status = -1; // -1: no HTTP answer
+        QByteArray body;
+    };
+    QCoro::Task<Exchange> exchange(Request request, QObject* owner) const;
+
+    QPointer<QNetworkAccessManager> m_session;
+    QString m_site;
+    QUrl m_base;
+    TokenSource m_token;
+};
+
+} // namespace vl

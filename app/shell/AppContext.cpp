@@ -1,0 +1,46 @@
+#include "app/shell/AppContext.h"
+
+#include "app/platform/KeychainSecretStore.h"
+#include "app/platform/SettingsPreferences.h"
+#include "app/service/NetworkSession.h"
+#include "app/shell/BuildNumber.h"
+
+#include <QLocale>
+
+namespace vl {
+
+AppContext::AppContext(PlatformBindings platform)
+    : m_platform(std::move(platform))
+    , m_api(m_platform.session.get(), m_platform.site, [this] { return auth.token(); })
+    , appState(*m_platform.preferences, m_platform.preferredLanguages)
+    , candidate(*m_platform.preferences, *m_platform.session, m_api.site())
+    , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota})
+    , taxonomy(m_api, m_platform.build) {}
+
+PlatformBindings AppContext::linuxBindings() {
+    PlatformBindings platform;
+    platform.preferences = std::make_unique<SettingsPreferences>();
+    platform.secrets = std::make_unique<KeychainSecretStore>(*platform.preferences);
+    platform.session = makeNetworkSession();
+    platform.preferredLanguages = QLocale::system().uiLanguages();
+    const QString fromEnvironment = qEnvironmentVariable("VELMORA_SITE");
+    platform.site =
+        fromEnvironment.isEmpty() ? QStringLiteral(VELMORA_DEFAULT_SITE) : fromEnvironment;
+    platform.build = runningBuildNumber();
+    return platform;
+}
+
+QCoro::Task<> AppContext::start() {
+    co_await auth.start();
+}
+
+QCoro::Task<> AppContext::boot() {
+    co_await taxonomy.load();
+    if (!auth.token())
+        co_return;
+    co_await auth.refresh();
+    if (auth.me())
+        co_await auth.adoptSeekerIdentity();
+}
+
+} // namespace vl

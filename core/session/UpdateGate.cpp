@@ -1,0 +1,31 @@
+#include "core/session/UpdateGate.h"
+
+namespace vl {
+
+namespace {
+
+std::optional<QString> nonEmpty(const std::optional<QString>& text) {
+    return text && !text->isEmpty() ? text : std::nullopt;
+}
+
+} // namespace
+
+std::optional<UpdateRequired> updateRequired(const ConfigPayload& config, qint64 build,
+                                             const QString& site) {
+    if (!config.minBuild || *config.minBuild < 1 || build >= *config.minBuild)
+        return std::nullopt;
+    const QString store =
+        nonEmpty(config.updateUrl).value_or(nonEmpty(config.storeUrl).value_or(site));
+    return UpdateRequired{store, nonEmpty(config.testflightUrl).value_or(store)};
+}
+
+std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint64 build) {
+    if (!config.latestBuild || build >= *config.latestBuild)
+        return std::nullopt;
+    const auto url = config.updateUrl ? config.updateUrl : config.storeUrl;
+    if (!url)
+        return std::nullopt;
+    return UpdateAvailable{*config.latestBuild, *url};
+}
+
+} // namespace vl
