@@ -15,7 +15,8 @@ using JsonResult = Result<QJsonValue>;
 using Args = QJsonObject;
 
 template <class T>
-QCoro::Task<JsonResult> asJson(QCoro::Task<Result<T>> task) {
+QCoro::Task<JsonResult> asJson(QCoro::Task<Result<T>> task)
+{
     const auto result = co_await std::move(task);
     if (!result)
         co_return result.error();
@@ -23,7 +24,8 @@ QCoro::Task<JsonResult> asJson(QCoro::Task<Result<T>> task) {
 }
 
 template <class T>
-QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task) {
+QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task)
+{
     const auto result = co_await std::move(task);
     if (!result)
         co_return result.error();
@@ -31,7 +33,8 @@ QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task) {
                           {QStringLiteral("meta"), json::write(result->meta)}};
 }
 
-QString text(const Args& args, const char* name) {
+QString text(const Args& args, const char* name)
+{
     return args.value(QLatin1StringView(name)).toString();
 }
 
@@ -41,7 +44,8 @@ struct Operation {
     std::function<QCoro::Task<JsonResult>(AppContext&, const Args&)> run;
 };
 
-const std::vector<Operation>& operations() {
+const std::vector<Operation>& operations()
+{
     static const std::vector<Operation> all{
         {"GET", "config",
          [](AppContext& c, const Args&) { return asJson(c.api().config(nullptr)); }},
@@ -72,7 +76,8 @@ const std::vector<Operation>& operations() {
 
 } // namespace
 
-QCoro::Task<int> runApi(AppContext& context, QStringList args) {
+QCoro::Task<int> runApi(AppContext& context, QStringList args)
+{
     if (args.size() < 2 || args.size() > 3)
         co_return printUsage(QStringLiteral("usage: velmora-cli api METHOD PATH [JSON]"));
     const QString method = args[0].toUpper();

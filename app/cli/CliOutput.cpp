@@ -7,7 +7,8 @@
 
 namespace vl::cli {
 
-void printJson(const QJsonValue& value) {
+void printJson(const QJsonValue& value)
+{
     const QJsonDocument document =
         value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
     const QByteArray text = document.toJson(QJsonDocument::Compact);
@@ -16,7 +17,8 @@ void printJson(const QJsonValue& value) {
     std::fflush(stdout);
 }
 
-int printError(const APIError& error, Lang lang) {
+int printError(const APIError& error, Lang lang)
+{
     QJsonObject object;
     switch (error.kind()) {
     case APIError::Kind::server:
@@ -36,7 +38,8 @@ int printError(const APIError& error, Lang lang) {
     return 1;
 }
 
-int printUsage(const QString& text) {
+int printUsage(const QString& text)
+{
     const QByteArray bytes = text.toUtf8() + '\n';
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
     return 2;

@@ -10,16 +10,19 @@ namespace vl::cli {
 
 namespace {
 
-QJsonValue orNull(const std::optional<QString>& text) {
+QJsonValue orNull(const std::optional<QString>& text)
+{
     return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null);
 }
 
-QJsonObject langObject(Lang lang) {
+QJsonObject langObject(Lang lang)
+{
     return {{QStringLiteral("lang"), rawValue(lang)}};
 }
 
 // The form's own error, in the words the window would show.
-int formFailure(const EmployerLoginForm& form) {
+int formFailure(const EmployerLoginForm& form)
+{
     printJson(QJsonObject{{QStringLiteral("error"), QStringLiteral("form")},
                           {QStringLiteral("message"), orNull(form.error())}});
     printUsage(form.error().value_or(QString()));
@@ -28,7 +31,8 @@ int formFailure(const EmployerLoginForm& form) {
 
 } // namespace
 
-QCoro::Task<int> runBoot(AppContext& context) {
+QCoro::Task<int> runBoot(AppContext& context)
+{
     co_await context.boot();
     const Taxonomy& taxonomy = context.taxonomy;
     QJsonValue required(QJsonValue::Null);
@@ -51,7 +55,8 @@ QCoro::Task<int> runBoot(AppContext& context) {
     co_return 0;
 }
 
-int runLang(AppContext& context, const QStringList& args) {
+int runLang(AppContext& context, const QStringList& args)
+{
     if (args.size() > 1)
         return printUsage(QStringLiteral("usage: velmora-cli lang [ka|en|ru]"));
     if (args.size() == 1) {
@@ -64,7 +69,8 @@ int runLang(AppContext& context, const QStringList& args) {
     return 0;
 }
 
-QCoro::Task<int> runEmployer(AppContext& context, QStringList args) {
+QCoro::Task<int> runEmployer(AppContext& context, QStringList args)
+{
     const QString action = args.value(0);
     EmployerLoginForm form({context.api(), context.auth, context.candidate, context.appState});
     if (action == QLatin1StringView("request-code") && args.size() == 2) {

@@ -8,7 +8,8 @@
 
 namespace {
 
-QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args) {
+QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args)
+{
     using namespace vl::cli;
     co_await context.start();
     const QString command = args.isEmpty() ? QString() : args.takeFirst();
@@ -25,7 +26,8 @@ QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args) {
 
 } // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("velmora"));
     QCoreApplication::setApplicationName(QStringLiteral("velmora"));

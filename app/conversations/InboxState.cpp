@@ -2,7 +2,8 @@
 
 namespace vl {
 
-void InboxState::setUnread(int unread) {
+void InboxState::setUnread(int unread)
+{
     if (unread == m_unread)
         return;
     m_unread = unread;

@@ -12,9 +12,12 @@ namespace vl {
 
 EmployerLoginForm::EmployerLoginForm(Parts parts, QObject* parent)
     : QObject(parent)
-    , m_parts(parts) {}
+    , m_parts(parts)
+{
+}
 
-QCoro::Task<> EmployerLoginForm::sendCode() {
+QCoro::Task<> EmployerLoginForm::sendCode()
+{
     const Lang lang = m_parts.appState.lang();
     const QString address = email.trimmed();
     if (!address.contains(QLatin1Char('@')) || !address.contains(QLatin1Char('.'))) {
@@ -34,7 +37,8 @@ QCoro::Task<> EmployerLoginForm::sendCode() {
     setWorking(false);
 }
 
-QCoro::Task<> EmployerLoginForm::verifyCode() {
+QCoro::Task<> EmployerLoginForm::verifyCode()
+{
     const Lang lang = m_parts.appState.lang();
     const QString typed = code.trimmed();
     if (typed.size() != 6) {
@@ -64,19 +68,22 @@ QCoro::Task<> EmployerLoginForm::verifyCode() {
     Q_EMIT done();
 }
 
-void EmployerLoginForm::changeEmail() {
+void EmployerLoginForm::changeEmail()
+{
     m_stage = Stage::email;
     code.clear();
     m_error.reset();
     Q_EMIT changed();
 }
 
-void EmployerLoginForm::setWorking(bool working) {
+void EmployerLoginForm::setWorking(bool working)
+{
     m_working = working;
     Q_EMIT changed();
 }
 
-void EmployerLoginForm::fail(QString message) {
+void EmployerLoginForm::fail(QString message)
+{
     m_error = std::move(message);
     Q_EMIT changed();
 }

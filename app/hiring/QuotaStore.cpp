@@ -2,7 +2,8 @@
 
 namespace vl {
 
-void QuotaStore::reset() {
+void QuotaStore::reset()
+{
     m_lastFetched.reset();
     m_probing = false;
     Q_EMIT changed();

@@ -23,13 +23,15 @@ CandidateAuth::CandidateAuth(Preferences& preferences, QNetworkAccessManager& se
     , m_session(session)
     , m_site(std::move(site))
     , m_adoptedFromEmployer(preferences.value(adoptedKey).toBool())
-    , m_declined(preferences.value(declinedKey).toBool()) {
+    , m_declined(preferences.value(declinedKey).toBool())
+{
     const QString stored = preferences.string(emailKey);
     if (!stored.isEmpty())
         m_email = stored;
 }
 
-void CandidateAuth::completeSignIn(const QString& email) {
+void CandidateAuth::completeSignIn(const QString& email)
+{
     m_email = email;
     m_declined = false;
     m_preferences.setValue(emailKey, email);
@@ -37,13 +39,15 @@ void CandidateAuth::completeSignIn(const QString& email) {
     Q_EMIT changed();
 }
 
-void CandidateAuth::markAdopted() {
+void CandidateAuth::markAdopted()
+{
     m_adoptedFromEmployer = true;
     m_preferences.setValue(adoptedKey, true);
     Q_EMIT changed();
 }
 
-void CandidateAuth::signOut() {
+void CandidateAuth::signOut()
+{
     m_email.reset();
     m_adoptedFromEmployer = false;
     m_declined = true;
@@ -54,7 +58,8 @@ void CandidateAuth::signOut() {
     Q_EMIT changed();
 }
 
-void CandidateAuth::employerSignedOut() {
+void CandidateAuth::employerSignedOut()
+{
     if (!m_email || !m_adoptedFromEmployer)
         return;
     signOut();
@@ -63,12 +68,14 @@ void CandidateAuth::employerSignedOut() {
     Q_EMIT changed();
 }
 
-void CandidateAuth::setPendingRecovery(std::optional<QStringList> codes) {
+void CandidateAuth::setPendingRecovery(std::optional<QStringList> codes)
+{
     m_pendingRecovery = std::move(codes);
     Q_EMIT changed();
 }
 
-QCoro::Task<Result<QString>> CandidateAuth::adopt(std::optional<QString> employerToken) {
+QCoro::Task<Result<QString>> CandidateAuth::adopt(std::optional<QString> employerToken)
+{
     if (!employerToken)
         co_return APIError::server(QStringLiteral("auth"));
     QPointer self(this);
@@ -81,7 +88,8 @@ QCoro::Task<Result<QString>> CandidateAuth::adopt(std::optional<QString> employe
     co_return adopted->email;
 }
 
-void CandidateAuth::deleteSessionCookie() {
+void CandidateAuth::deleteSessionCookie()
+{
     const QUrl origin(m_site);
     QNetworkCookieJar& jar = *m_session.cookieJar();
     const auto cookies = jar.cookiesForUrl(origin);

@@ -66,7 +66,8 @@ private:
 
 template <class T>
 QCoro::Task<Result<T>> CandidateAuth::postEnvelope(QString path, QByteArray body,
-                                                   std::optional<QString> bearer) {
+                                                   std::optional<QString> bearer)
+{
     QNetworkRequest request(QUrl(m_site + path));
     request.setTransferTimeout(60000);
     request.setRawHeader("x-vl-client", "ios");

@@ -13,7 +13,9 @@ class Preferences;
 class SecretStore {
 public:
     explicit SecretStore(Preferences& preferences)
-        : m_preferences(preferences) {}
+        : m_preferences(preferences)
+    {
+    }
     virtual ~SecretStore() = default;
 
     virtual QCoro::Task<std::optional<QString>> get(QString key) = 0;

@@ -12,13 +12,15 @@ struct ReplyDeleter {
     void operator()(QNetworkReply* reply) const { reply->deleteLater(); }
 };
 
-bool tagged(APIClient::Shape shape) {
+bool tagged(APIClient::Shape shape)
+{
     using Shape = APIClient::Shape;
     return shape == Shape::taggedRead || shape == Shape::jsonWrite || shape == Shape::deleteCall ||
            shape == Shape::multipartWrite;
 }
 
-bool writes(APIClient::Shape shape) {
+bool writes(APIClient::Shape shape)
+{
     using Shape = APIClient::Shape;
     return shape == Shape::jsonWrite || shape == Shape::deleteCall ||
            shape == Shape::multipartWrite;
@@ -30,9 +32,12 @@ APIClient::APIClient(QNetworkAccessManager* session, const QString& site, TokenS
     : m_session(session)
     , m_site(site.endsWith(QLatin1Char('/')) ? site.chopped(1) : site)
     , m_base(m_site + QStringLiteral("/api/app/v1"))
-    , m_token(std::move(token)) {}
+    , m_token(std::move(token))
+{
+}
 
-QUrl APIClient::url(const QString& path, const Query& query) const {
+QUrl APIClient::url(const QString& path, const Query& query) const
+{
     QUrl result = path.startsWith(QLatin1StringView("/api/"))
                       ? QUrl(m_site + path)
                       : QUrl(m_base.toString() + QLatin1Char('/') + path);
@@ -47,7 +52,8 @@ QUrl APIClient::url(const QString& path, const Query& query) const {
     return result;
 }
 
-QNetworkRequest APIClient::buildRequest(const Request& request) const {
+QNetworkRequest APIClient::buildRequest(const Request& request) const
+{
     QNetworkRequest out(url(request.path, request.query));
     out.setTransferTimeout(request.timeoutMs);
     out.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
@@ -71,7 +77,8 @@ QNetworkRequest APIClient::buildRequest(const Request& request) const {
     return out;
 }
 
-QNetworkReply* APIClient::send(const Request& request, QObject* owner) const {
+QNetworkReply* APIClient::send(const Request& request, QObject* owner) const
+{
     Q_ASSERT(m_session);
     const QNetworkRequest built = buildRequest(request);
     QNetworkReply* reply = nullptr;
@@ -94,7 +101,8 @@ QNetworkReply* APIClient::send(const Request& request, QObject* owner) const {
     return reply;
 }
 
-QCoro::Task<APIClient::Exchange> APIClient::exchange(Request request, QObject* owner) const {
+QCoro::Task<APIClient::Exchange> APIClient::exchange(Request request, QObject* owner) const
+{
     std::unique_ptr<QNetworkReply, ReplyDeleter> reply(send(request, owner));
     co_await reply.get();
     const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
@@ -111,7 +119,8 @@ QCoro::Task<APIClient::Exchange> APIClient::exchange(Request request, QObject* o
     co_return Exchange{status.toInt(), reply->readAll()};
 }
 
-QCoro::Task<Result<QByteArray>> APIClient::bytes(Request request, QObject* owner) const {
+QCoro::Task<Result<QByteArray>> APIClient::bytes(Request request, QObject* owner) const
+{
     auto [status, body] = co_await exchange(std::move(request), owner);
     if (status < 0)
         co_return APIError::network();
@@ -122,7 +131,8 @@ QCoro::Task<Result<QByteArray>> APIClient::bytes(Request request, QObject* owner
 
 namespace {
 
-APIClient::Request jsonWrite(const QString& path, QByteArray body) {
+APIClient::Request jsonWrite(const QString& path, QByteArray body)
+{
     return {.shape = APIClient::Shape::jsonWrite,
             .path = path,
             .body = std::move(body),
@@ -131,17 +141,20 @@ APIClient::Request jsonWrite(const QString& path, QByteArray body) {
 
 } // namespace
 
-QCoro::Task<Result<ConfigPayload>> APIClient::config(QObject* owner) const {
+QCoro::Task<Result<ConfigPayload>> APIClient::config(QObject* owner) const
+{
     return call<ConfigPayload>({.shape = Shape::plainRead, .path = QStringLiteral("config")},
                                owner);
 }
 
-QCoro::Task<Result<MePayload>> APIClient::me(QObject* owner) const {
+QCoro::Task<Result<MePayload>> APIClient::me(QObject* owner) const
+{
     return call<MePayload>({.shape = Shape::bearerRead, .path = QStringLiteral("me")}, owner);
 }
 
 QCoro::Task<Result<ProfilePayload>> APIClient::updateMe(QString name, QString website,
-                                                        QString phone, QObject* owner) const {
+                                                        QString phone, QObject* owner) const
+{
     return call<ProfilePayload>(
         jsonWrite(QStringLiteral("me"), stringBody({{QStringLiteral("name"), name},
                                                     {QStringLiteral("website"), website},
@@ -149,12 +162,14 @@ QCoro::Task<Result<ProfilePayload>> APIClient::updateMe(QString name, QString we
         owner);
 }
 
-QCoro::Task<Result<Nothing>> APIClient::deleteMe(QObject* owner) const {
+QCoro::Task<Result<Nothing>> APIClient::deleteMe(QObject* owner) const
+{
     return call<Nothing>({.shape = Shape::deleteCall, .path = QStringLiteral("me")}, owner);
 }
 
 QCoro::Task<Result<Nothing>> APIClient::authRequest(QString email, Lang locale,
-                                                    QObject* owner) const {
+                                                    QObject* owner) const
+{
     return call<Nothing>(jsonWrite(QStringLiteral("auth/request"),
                                    stringBody({{QStringLiteral("email"), email},
                                                {QStringLiteral("locale"), rawValue(locale)}})),
@@ -162,7 +177,8 @@ QCoro::Task<Result<Nothing>> APIClient::authRequest(QString email, Lang locale,
 }
 
 QCoro::Task<Result<AuthVerifyPayload>> APIClient::authVerify(QString email, QString code,
-                                                             QObject* owner) const {
+                                                             QObject* owner) const
+{
     return call<AuthVerifyPayload>(
         jsonWrite(QStringLiteral("auth/verify"),
                   stringBody({{QStringLiteral("email"), email}, {QStringLiteral("code"), code}})),
@@ -170,7 +186,8 @@ QCoro::Task<Result<AuthVerifyPayload>> APIClient::authVerify(QString email, QStr
 }
 
 QCoro::Task<Result<Nothing>> APIClient::authLogout(QString pushToken, QString voipToken,
-                                                   QObject* owner) const {
+                                                   QObject* owner) const
+{
     return call<Nothing>(jsonWrite(QStringLiteral("auth/logout"),
                                    stringBody({{QStringLiteral("pushToken"), pushToken},
                                                {QStringLiteral("voipToken"), voipToken}})),

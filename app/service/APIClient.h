@@ -62,7 +62,8 @@ public:
 
     // An enveloped call whose `data` is a T.
     template <class T>
-    QCoro::Task<Result<T>> call(Request request, QObject* owner) const {
+    QCoro::Task<Result<T>> call(Request request, QObject* owner) const
+    {
         const auto [status, body] = co_await exchange(std::move(request), owner);
         if (status < 0)
             co_return APIError::network();
@@ -71,7 +72,8 @@ public:
 
     // An enveloped list call: the rows and their paging.
     template <class T>
-    QCoro::Task<Result<Page<T>>> list(Request request, QObject* owner) const {
+    QCoro::Task<Result<Page<T>>> list(Request request, QObject* owner) const
+    {
         const auto [status, body] = co_await exchange(std::move(request), owner);
         if (status < 0)
             co_return APIError::network();
@@ -80,7 +82,8 @@ public:
 
     // A chat send, read tolerantly: refusals carry the service's words.
     template <class T>
-    QCoro::Task<Result<answer::ChatSendResult<T>>> chatSend(Request request, QObject* owner) const {
+    QCoro::Task<Result<answer::ChatSendResult<T>>> chatSend(Request request, QObject* owner) const
+    {
         const auto [status, body] = co_await exchange(std::move(request), owner);
         if (status < 0)
             co_return APIError::network();

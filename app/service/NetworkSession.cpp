@@ -5,7 +5,8 @@
 
 namespace vl {
 
-std::unique_ptr<QNetworkAccessManager> makeNetworkSession() {
+std::unique_ptr<QNetworkAccessManager> makeNetworkSession()
+{
     auto session = std::make_unique<QNetworkAccessManager>();
     auto* cache = new QNetworkDiskCache(session.get());
     cache->setCacheDirectory(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +

@@ -15,9 +15,12 @@ AppContext::AppContext(PlatformBindings platform)
     , appState(*m_platform.preferences, m_platform.preferredLanguages)
     , candidate(*m_platform.preferences, *m_platform.session, m_api.site())
     , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota})
-    , taxonomy(m_api, m_platform.build) {}
+    , taxonomy(m_api, m_platform.build)
+{
+}
 
-PlatformBindings AppContext::linuxBindings() {
+PlatformBindings AppContext::linuxBindings()
+{
     PlatformBindings platform;
     platform.preferences = std::make_unique<SettingsPreferences>();
     platform.secrets = std::make_unique<KeychainSecretStore>(*platform.preferences);
@@ -30,11 +33,13 @@ PlatformBindings AppContext::linuxBindings() {
     return platform;
 }
 
-QCoro::Task<> AppContext::start() {
+QCoro::Task<> AppContext::start()
+{
     co_await auth.start();
 }
 
-QCoro::Task<> AppContext::boot() {
+QCoro::Task<> AppContext::boot()
+{
     co_await taxonomy.load();
     if (!auth.token())
         co_return;

@@ -8,7 +8,8 @@ namespace {
 
 const QString langKey = QStringLiteral("vl.lang");
 
-Lang fromPreferred(const QStringList& preferred) {
+Lang fromPreferred(const QStringList& preferred)
+{
     const QString first = preferred.isEmpty() ? QStringLiteral("ka") : preferred.first();
     const QString prefix = first.left(2);
     if (prefix == QLatin1StringView("en"))
@@ -22,7 +23,8 @@ Lang fromPreferred(const QStringList& preferred) {
 
 AppState::AppState(Preferences& preferences, const QStringList& preferredLanguages, QObject* parent)
     : QObject(parent)
-    , m_preferences(preferences) {
+    , m_preferences(preferences)
+{
     if (const auto stored = langFromRaw(m_preferences.string(langKey))) {
         m_lang = *stored;
         return;
@@ -31,7 +33,8 @@ AppState::AppState(Preferences& preferences, const QStringList& preferredLanguag
     m_preferences.setValue(langKey, rawValue(m_lang));
 }
 
-void AppState::setLang(Lang lang) {
+void AppState::setLang(Lang lang)
+{
     m_preferences.setValue(langKey, rawValue(lang));
     if (lang == m_lang)
         return;

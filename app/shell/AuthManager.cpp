@@ -19,9 +19,12 @@ const QString sessionKey = QStringLiteral("session");
 
 AuthManager::AuthManager(Parts parts, QObject* parent)
     : QObject(parent)
-    , m_parts(parts) {}
+    , m_parts(parts)
+{
+}
 
-QCoro::Task<> AuthManager::start() {
+QCoro::Task<> AuthManager::start()
+{
     QPointer self(this);
     auto token = co_await m_parts.secrets.get(sessionKey);
     if (!self || m_token)
@@ -32,7 +35,8 @@ QCoro::Task<> AuthManager::start() {
     }
 }
 
-QCoro::Task<> AuthManager::refresh() {
+QCoro::Task<> AuthManager::refresh()
+{
     if (!m_token)
         co_return;
     QPointer self(this);
@@ -48,7 +52,8 @@ QCoro::Task<> AuthManager::refresh() {
     }
 }
 
-QCoro::Task<> AuthManager::signedIn(QString token) {
+QCoro::Task<> AuthManager::signedIn(QString token)
+{
     m_token = token;
     m_me.reset();
     Q_EMIT sessionChanged();
@@ -61,7 +66,8 @@ QCoro::Task<> AuthManager::signedIn(QString token) {
         co_await adoptSeekerIdentity();
 }
 
-QCoro::Task<> AuthManager::logOut() {
+QCoro::Task<> AuthManager::logOut()
+{
     const QString push = m_parts.preferences.string(QStringLiteral("vl.pushToken"));
     const QString voip = m_parts.preferences.string(QStringLiteral("vl.voipToken"));
     QPointer self(this);
@@ -70,7 +76,8 @@ QCoro::Task<> AuthManager::logOut() {
         clearSession();
 }
 
-void AuthManager::clearSession() {
+void AuthManager::clearSession()
+{
     m_token.reset();
     m_me.reset();
     m_parts.secrets.remove(sessionKey);
@@ -82,7 +89,8 @@ void AuthManager::clearSession() {
     Q_EMIT meChanged();
 }
 
-QCoro::Task<> AuthManager::adoptSeekerIdentity() {
+QCoro::Task<> AuthManager::adoptSeekerIdentity()
+{
     if (!m_token || m_parts.candidate.signedIn() || m_parts.candidate.declined())
         co_return;
     co_await m_parts.candidate.adopt(m_token);

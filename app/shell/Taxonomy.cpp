@@ -9,9 +9,12 @@ namespace vl {
 Taxonomy::Taxonomy(const APIClient& api, qint64 build, QObject* parent)
     : QObject(parent)
     , m_api(api)
-    , m_build(build) {}
+    , m_build(build)
+{
+}
 
-QCoro::Task<> Taxonomy::load() {
+QCoro::Task<> Taxonomy::load()
+{
     if (!m_categories.empty())
         co_return;
     QPointer self(this);

@@ -2,7 +2,8 @@
 
 namespace vl {
 
-FormSpecDTO::Slot FormSpecDTO::slotOf(const QString& raw) {
+FormSpecDTO::Slot FormSpecDTO::slotOf(const QString& raw)
+{
     if (raw == QLatin1StringView("required"))
         return Slot::required;
     if (raw == QLatin1StringView("off"))

@@ -4,7 +4,8 @@
 
 namespace vl {
 
-std::optional<QDateTime> JobSummary::boardDate() const {
+std::optional<QDateTime> JobSummary::boardDate() const
+{
     const QString& text = bumpedAt ? *bumpedAt : publishedAt ? *publishedAt : QString();
     return parseIso8601(text);
 }

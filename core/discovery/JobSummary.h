@@ -45,7 +45,8 @@ struct JobSummary {
     std::optional<QDateTime> boardDate() const;
 };
 
-inline size_t qHash(const JobSummary& job, size_t seed = 0) {
+inline size_t qHash(const JobSummary& job, size_t seed = 0)
+{
     return json::hashValue(job, seed);
 }
 

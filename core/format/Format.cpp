@@ -10,12 +10,14 @@ namespace vl::Format {
 namespace {
 
 // The service is in one country: wall-clock arithmetic uses its fixed offset, UTC+4.
-const QTimeZone& serviceZone() {
+const QTimeZone& serviceZone()
+{
     static const QTimeZone zone(4 * 3600);
     return zone;
 }
 
-QLocale localeFor(Lang lang) {
+QLocale localeFor(Lang lang)
+{
     switch (lang) {
     case Lang::en:
         return QLocale(QLocale::English, QLocale::UnitedStates);
@@ -30,7 +32,8 @@ QLocale localeFor(Lang lang) {
 // Qt has short and long styles only; the medium style is the common written date of each
 // language: "Mar 1, 2026", "1 მარ. 2026", "1 мар. 2026 г.". Qt's Georgian short month names
 // carry no abbreviation point, its Russian ones do.
-QString mediumPattern(Lang lang) {
+QString mediumPattern(Lang lang)
+{
     switch (lang) {
     case Lang::en:
         return QStringLiteral("MMM d, yyyy");
@@ -43,7 +46,8 @@ QString mediumPattern(Lang lang) {
 }
 
 // Short styles: "3/1/26, 9:05 AM", "01.03.26, 09:05", "01.03.2026, 09:05".
-QString shortPattern(Lang lang) {
+QString shortPattern(Lang lang)
+{
     switch (lang) {
     case Lang::en:
         return QStringLiteral("M/d/yy, h:mm AP");
@@ -55,7 +59,8 @@ QString shortPattern(Lang lang) {
     return QStringLiteral("dd.MM.yy, HH:mm");
 }
 
-std::optional<QDateTime> localDate(const std::optional<QString>& text) {
+std::optional<QDateTime> localDate(const std::optional<QString>& text)
+{
     if (!text)
         return std::nullopt;
     const auto parsed = parseDate(*text);
@@ -66,7 +71,8 @@ std::optional<QDateTime> localDate(const std::optional<QString>& text) {
 
 } // namespace
 
-QString salary(std::optional<int> min, std::optional<int> max) {
+QString salary(std::optional<int> min, std::optional<int> max)
+{
     const QString lari = QStringLiteral("₾");
     if (!min && !max)
         return QString();
@@ -75,7 +81,8 @@ QString salary(std::optional<int> min, std::optional<int> max) {
     return lari + QString::number(*min) + QStringLiteral("–") + QString::number(*max);
 }
 
-QString grouped(qint64 n, Lang lang) {
+QString grouped(qint64 n, Lang lang)
+{
     const QChar separator = lang == Lang::ru ? QChar(0x00A0) : QChar(u',');
     // The magnitude as unsigned, so that the most negative value has one too.
     const quint64 magnitude = n < 0 ? 0 - static_cast<quint64>(n) : static_cast<quint64>(n);
@@ -92,25 +99,29 @@ QString grouped(qint64 n, Lang lang) {
     return result;
 }
 
-std::optional<QDateTime> parseDate(QStringView text) {
+std::optional<QDateTime> parseDate(QStringView text)
+{
     return parseIso8601(text);
 }
 
-QString dateTime(const std::optional<QString>& text, Lang lang) {
+QString dateTime(const std::optional<QString>& text, Lang lang)
+{
     const auto local = localDate(text);
     if (!local)
         return QString();
     return localeFor(lang).toString(*local, shortPattern(lang));
 }
 
-QString date(const std::optional<QString>& text, Lang lang) {
+QString date(const std::optional<QString>& text, Lang lang)
+{
     const auto local = localDate(text);
     if (!local)
         return QString();
     return localeFor(lang).toString(local->date(), mediumPattern(lang));
 }
 
-QString stamp(const QString& text) {
+QString stamp(const QString& text)
+{
     const auto parsed = parseDate(text);
     if (!parsed)
         return text;
@@ -125,7 +136,8 @@ QString stamp(const QString& text) {
         .arg(time.minute(), 2, 10, QChar(u'0'));
 }
 
-QDateTime dayStart(int daysAgo, const QDateTime& now) {
+QDateTime dayStart(int daysAgo, const QDateTime& now)
+{
     const QDate today = now.toTimeZone(serviceZone()).date();
     const QDateTime start = QDateTime(today.addDays(-daysAgo), QTime(0, 0), serviceZone());
     if (start.isValid())

@@ -30,7 +30,8 @@ constexpr std::array<Letter, 33> russian{{
     {u'э', u"e"},  {u'ю', u"yu"}, {u'я', u"ya"},
 }};
 
-std::optional<std::u16string_view> lookup(char16_t c) {
+std::optional<std::u16string_view> lookup(char16_t c)
+{
     for (const auto* table : {&georgian, &russian}) {
         for (const Letter& letter : *table) {
             if (letter.from == c)
@@ -40,7 +41,8 @@ std::optional<std::u16string_view> lookup(char16_t c) {
     return std::nullopt;
 }
 
-bool anyIn(QStringView text, char16_t first, char16_t last) {
+bool anyIn(QStringView text, char16_t first, char16_t last)
+{
     for (const QChar c : text) {
         if (c.unicode() >= first && c.unicode() <= last)
             return true;
@@ -50,15 +52,18 @@ bool anyIn(QStringView text, char16_t first, char16_t last) {
 
 } // namespace
 
-bool hasGeorgian(QStringView text) {
+bool hasGeorgian(QStringView text)
+{
     return anyIn(text, u'\u10A0', u'\u10FF');
 }
 
-bool hasCyrillic(QStringView text) {
+bool hasCyrillic(QStringView text)
+{
     return anyIn(text, u'\u0400', u'\u04FF');
 }
 
-QString latin(QStringView text) {
+QString latin(QStringView text)
+{
     QString result;
     result.reserve(text.size() * 2);
     bool wordStart = true;
@@ -80,7 +85,8 @@ QString latin(QStringView text) {
     return result;
 }
 
-std::optional<QString> subtitle(const QString& name, Lang lang) {
+std::optional<QString> subtitle(const QString& name, Lang lang)
+{
     const QString trimmed = name.trimmed();
     if (trimmed.isEmpty())
         return std::nullopt;

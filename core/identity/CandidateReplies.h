@@ -27,7 +27,8 @@ namespace candidateReply {
 // Calls under /api/app/v1/candidate: an envelope that says no without a code reads as a wrong
 // code, and so does one that says yes without data.
 template <class T>
-Result<T> readEnvelope(const QByteArray& body, int status) {
+Result<T> readEnvelope(const QByteArray& body, int status)
+{
     auto envelope = json::decode<AppEnvelope<T>>(body);
     if (!envelope)
         return APIError::http(status);

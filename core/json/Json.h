@@ -16,7 +16,6 @@
 #include <QJsonValue>
 #include <QLatin1StringView>
 #include <QString>
-
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -42,12 +41,17 @@ constexpr Field<Owner, Member> field(const char* key, Member Owner::*member)
 }
 
 template <class T>
-concept Record = requires { T::jsonFields(); };
+concept Record = requires
+{
+    T::jsonFields();
+};
 
 template <class T>
-struct IsOptional : std::false_type {};
+struct IsOptional : std::false_type {
+};
 template <class T>
-struct IsOptional<std::optional<T>> : std::true_type {};
+struct IsOptional<std::optional<T>> : std::true_type {
+};
 
 // Codec<T>::read(value, out) -> bool and Codec<T>::write(value) -> QJsonValue.
 template <class T>
@@ -66,8 +70,7 @@ struct Codec<bool> {
 };
 
 template <class Int>
-    requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>)
-struct Codec<Int> {
+requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>) struct Codec<Int> {
     static bool read(const QJsonValue& v, Int& out)
     {
         if (!v.isDouble())
@@ -205,8 +208,9 @@ struct Codec<T> {
         QJsonObject object;
         std::apply(
             [&](const auto&... fields) {
-                (object.insert(QLatin1StringView(fields.key), Codec<std::remove_cvref_t<
-                                   decltype(v.*(fields.member))>>::write(v.*(fields.member))),
+                (object.insert(QLatin1StringView(fields.key),
+                               Codec<std::remove_cvref_t<decltype(v.*(fields.member))>>::write(
+                                   v.*(fields.member))),
                  ...);
             },
             T::jsonFields());
@@ -272,12 +276,17 @@ template <class T>
 std::size_t hashValue(const T& value, std::size_t seed = 0)
 {
     if constexpr (Record<T>) {
-        std::apply([&](const auto&... fields) { ((seed = hashValue(value.*(fields.member), seed)), ...); },
-                   T::jsonFields());
+        std::apply(
+            [&](const auto&... fields) { ((seed = hashValue(value.*(fields.member), seed)), ...); },
+            T::jsonFields());
         return seed;
     } else if constexpr (IsOptional<T>::value) {
         return value ? hashValue(*value, qHash(1, seed)) : qHash(0, seed);
-    } else if constexpr (requires { value.begin(); value.end(); } && !std::is_same_v<T, QString>) {
+    } else if constexpr (requires {
+                             value.begin();
+                             value.end();
+                         } &&
+                         !std::is_same_v<T, QString>) {
         for (const auto& item : value)
             seed = hashValue(item, seed);
         return seed;
@@ -310,4 +319,7 @@ std::size_t hashValue(const T& value, std::size_t seed = 0)
         return std::make_tuple(VL_JSON_FOR_EACH(VL_JSON_FIELD, __VA_ARGS__));                      \
     }
 #define VL_JSON_NO_FIELDS                                                                          \
-    static constexpr auto jsonFields() { return std::tuple<>{}; }
+    static constexpr auto jsonFields()                                                             \
+    {                                                                                              \
+        return std::tuple<>{};                                                                     \
+    }

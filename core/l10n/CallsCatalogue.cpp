@@ -137,7 +137,8 @@ constexpr CatalogueRow rows[] = {
 
 } // namespace
 
-std::span<const CatalogueRow> callsRows() {
+std::span<const CatalogueRow> callsRows()
+{
     return rows;
 }
 

@@ -19,7 +19,8 @@ struct CatalogueRow {
 // Rows are written as VL_TEXT(key, "English", "Georgian", "Russian"), one per line, so that a
 // translator reads and edits the three texts of a key together. The sources are UTF-8.
 #define VL_TEXT(key, en, ka, ru)                                                                   \
-    ::vl::L10n::CatalogueRow {                                                                     \
+    ::vl::L10n::CatalogueRow                                                                       \
+    {                                                                                              \
         ::vl::L10n::Key::key, #key, u"" en, u"" ka, u"" ru                                         \
     }
 

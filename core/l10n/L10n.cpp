@@ -14,7 +14,8 @@ struct Entry {
     QString ka;
     QString ru;
 
-    const QString& in(Lang lang) const {
+    const QString& in(Lang lang) const
+    {
         switch (lang) {
         case Lang::en:
             return en;
@@ -28,7 +29,8 @@ struct Entry {
 };
 
 // The texts live in static storage for the whole run; the strings only point at them.
-QString wrap(std::u16string_view text) {
+QString wrap(std::u16string_view text)
+{
     return QString::fromRawData(reinterpret_cast<const QChar*>(text.data()),
                                 static_cast<qsizetype>(text.size()));
 }
@@ -42,7 +44,8 @@ struct Catalogue {
     QHash<QString, Key> byName;
 };
 
-void fill(Catalogue& catalogue, Table& table, std::span<const CatalogueRow> rows) {
+void fill(Catalogue& catalogue, Table& table, std::span<const CatalogueRow> rows)
+{
     table.reserve(static_cast<qsizetype>(rows.size()));
     for (const CatalogueRow& row : rows) {
         table.insert(row.key, Entry{wrap(row.en), wrap(row.ka), wrap(row.ru)});
@@ -52,7 +55,8 @@ void fill(Catalogue& catalogue, Table& table, std::span<const CatalogueRow> rows
     }
 }
 
-Catalogue build() {
+Catalogue build()
+{
     Catalogue catalogue;
     catalogue.byName.reserve(keyCount);
     fill(catalogue, catalogue.main, mainRows());
@@ -60,7 +64,8 @@ Catalogue build() {
     return catalogue;
 }
 
-const Catalogue& catalogue() {
+const Catalogue& catalogue()
+{
     static const Catalogue instance = build();
     return instance;
 }
@@ -74,7 +79,8 @@ constexpr std::array<Key, keyCount> keysInOrder = [] {
 
 } // namespace
 
-QString text(Key key, Lang lang) {
+QString text(Key key, Lang lang)
+{
     const Catalogue& c = catalogue();
     auto found = c.main.constFind(key);
     if (found == c.main.cend()) {
@@ -85,19 +91,23 @@ QString text(Key key, Lang lang) {
     return found->in(lang);
 }
 
-QString text(Key key, Lang lang, int n) {
+QString text(Key key, Lang lang, int n)
+{
     return text(key, lang, QString::number(n));
 }
 
-QString text(Key key, Lang lang, const QString& n) {
+QString text(Key key, Lang lang, const QString& n)
+{
     return text(key, lang).replace(QLatin1StringView("{n}"), n);
 }
 
-QString textNMax(Key key, Lang lang, int n, int max) {
+QString textNMax(Key key, Lang lang, int n, int max)
+{
     return text(key, lang, n).replace(QLatin1StringView("{max}"), QString::number(max));
 }
 
-Key macVariant(Key key) {
+Key macVariant(Key key)
+{
     switch (key) {
     case Key::fySavedOnPhone:
         return Key::fySavedOnMac;
@@ -116,14 +126,16 @@ Key macVariant(Key key) {
     }
 }
 
-QLatin1StringView keyName(Key key) {
+QLatin1StringView keyName(Key key)
+{
     const auto index = static_cast<std::size_t>(key);
     if (index >= keysInOrder.size())
         return {};
     return catalogue().names[index];
 }
 
-std::optional<Key> keyFromName(QStringView name) {
+std::optional<Key> keyFromName(QStringView name)
+{
     const auto& byName = catalogue().byName;
     const auto found = byName.constFind(name.toString());
     if (found == byName.cend())
@@ -131,7 +143,8 @@ std::optional<Key> keyFromName(QStringView name) {
     return *found;
 }
 
-std::span<const Key> allKeys() {
+std::span<const Key> allKeys()
+{
     return keysInOrder;
 }
 

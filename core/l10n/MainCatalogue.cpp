@@ -708,7 +708,8 @@ constexpr CatalogueRow rows[] = {
 
 } // namespace
 
-std::span<const CatalogueRow> mainRows() {
+std::span<const CatalogueRow> mainRows()
+{
     return rows;
 }
 

@@ -15,7 +15,8 @@ struct Row {
 };
 
 #define VL_QUOTA(key, en, ka, ru)                                                                  \
-    Row {                                                                                          \
+    Row                                                                                            \
+    {                                                                                              \
         Key::key, u"" en, u"" ka, u"" ru                                                           \
     }
 
@@ -55,14 +56,16 @@ static_assert([] {
     return true;
 }());
 
-QString wrap(std::u16string_view text) {
+QString wrap(std::u16string_view text)
+{
     return QString::fromRawData(reinterpret_cast<const QChar*>(text.data()),
                                 static_cast<qsizetype>(text.size()));
 }
 
 } // namespace
 
-QString text(Key key, Lang lang) {
+QString text(Key key, Lang lang)
+{
     const auto index = static_cast<std::size_t>(key);
     if (index >= rows.size())
         return QString();
@@ -78,11 +81,13 @@ QString text(Key key, Lang lang) {
     return wrap(row.ka);
 }
 
-QString text(Key key, Lang lang, int first) {
+QString text(Key key, Lang lang, int first)
+{
     return text(key, lang).replace(QLatin1StringView("{0}"), QString::number(first));
 }
 
-QString text(Key key, Lang lang, int first, int second) {
+QString text(Key key, Lang lang, int first, int second)
+{
     return text(key, lang, first).replace(QLatin1StringView("{1}"), QString::number(second));
 }
 

@@ -39,14 +39,16 @@ constexpr std::array workerTags{"on_time"_L1, "quality"_L1, "friendly"_L1, "agai
 constexpr std::array employerTags{"paid"_L1,  "clear"_L1,         "respectful"_L1,
                                   "again"_L1, "payment_issue"_L1, "unclear"_L1};
 
-QString wrap(std::u16string_view text) {
+QString wrap(std::u16string_view text)
+{
     return QString::fromRawData(reinterpret_cast<const QChar*>(text.data()),
                                 static_cast<qsizetype>(text.size()));
 }
 
 } // namespace
 
-QString label(QStringView tagId, Lang lang) {
+QString label(QStringView tagId, Lang lang)
+{
     for (const Row& row : rows) {
         if (tagId != row.id)
             continue;
@@ -63,11 +65,13 @@ QString label(QStringView tagId, Lang lang) {
     return tagId.toString();
 }
 
-std::span<const QLatin1StringView> forWorker() {
+std::span<const QLatin1StringView> forWorker()
+{
     return workerTags;
 }
 
-std::span<const QLatin1StringView> forEmployer() {
+std::span<const QLatin1StringView> forEmployer()
+{
     return employerTags;
 }
 

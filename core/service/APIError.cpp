@@ -8,7 +8,8 @@
 
 namespace vl {
 
-QString APIError::message(Lang lang) const {
+QString APIError::message(Lang lang) const
+{
     using L10n::Key;
     if (m_kind != Kind::server)
         return L10n::text(Key::errLoadBody, lang);

@@ -33,7 +33,9 @@ private:
     APIError(Kind kind, QString code, int status)
         : m_kind(kind)
         , m_code(std::move(code))
-        , m_status(status) {}
+        , m_status(status)
+    {
+    }
 
     Kind m_kind;
     QString m_code;

@@ -27,14 +27,16 @@ struct Page {
 namespace answer {
 
 template <class T>
-Result<T> fromEnvelope(Envelope<T>&& envelope) {
+Result<T> fromEnvelope(Envelope<T>&& envelope)
+{
     if (envelope.ok && envelope.data)
         return std::move(*envelope.data);
     return APIError::server(envelope.error.value_or(QStringLiteral("generic")));
 }
 
 template <class T>
-Result<T> read(const QByteArray& body, int status) {
+Result<T> read(const QByteArray& body, int status)
+{
     auto envelope = json::decode<Envelope<T>>(body);
     if (!envelope)
         return APIError::http(status);
@@ -42,7 +44,8 @@ Result<T> read(const QByteArray& body, int status) {
 }
 
 template <class T>
-Result<Page<T>> readPage(const QByteArray& body, int status) {
+Result<Page<T>> readPage(const QByteArray& body, int status)
+{
     auto envelope = json::decode<Envelope<std::vector<T>>>(body);
     if (!envelope)
         return APIError::http(status);
@@ -58,7 +61,8 @@ template <class T>
 using ChatSendResult = Result<std::optional<T>, ChatRefusal>;
 
 template <class T>
-ChatSendResult<T> readChatSend(const QByteArray& body, int status) {
+ChatSendResult<T> readChatSend(const QByteArray& body, int status)
+{
     const auto loose = json::decode<LooseEnvelope>(body);
     if (!loose) {
         return ChatRefusal{status == 413 ? QStringLiteral("size") : QStringLiteral("http"),

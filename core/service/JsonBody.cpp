@@ -5,7 +5,8 @@
 
 namespace vl {
 
-QByteArray stringBody(std::initializer_list<std::pair<QString, std::optional<QString>>> fields) {
+QByteArray stringBody(std::initializer_list<std::pair<QString, std::optional<QString>>> fields)
+{
     QJsonObject object;
     for (const auto& [key, value] : fields) {
         if (value)

@@ -6,37 +6,47 @@ namespace vl {
 
 MultipartForm::MultipartForm()
     : MultipartForm(QStringLiteral("vl-") +
-                    QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper()) {}
+                    QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper())
+{
+}
 
 MultipartForm::MultipartForm(QString boundary)
-    : m_boundary(std::move(boundary)) {}
+    : m_boundary(std::move(boundary))
+{
+}
 
-QByteArray MultipartForm::contentType() const {
+QByteArray MultipartForm::contentType() const
+{
     return "multipart/form-data; boundary=" + m_boundary.toUtf8();
 }
 
-void MultipartForm::text(const QString& name, const QString& value) {
+void MultipartForm::text(const QString& name, const QString& value)
+{
     m_parts += "--" + m_boundary.toUtf8() + "\r\nContent-Disposition: form-data; name=\"" +
                name.toUtf8() + "\"\r\n\r\n" + value.toUtf8() + "\r\n";
 }
 
-void MultipartForm::textIfAny(const QString& name, const QString& value) {
+void MultipartForm::textIfAny(const QString& name, const QString& value)
+{
     if (!value.isEmpty())
         text(name, value);
 }
 
 void MultipartForm::file(const QString& name, const QString& filename, const QString& mime,
-                         const QByteArray& bytes) {
+                         const QByteArray& bytes)
+{
     m_parts += "--" + m_boundary.toUtf8() + "\r\nContent-Disposition: form-data; name=\"" +
                name.toUtf8() + "\"; filename=\"" + sanitiseFilename(filename).toUtf8() +
                "\"\r\nContent-Type: " + mime.toUtf8() + "\r\n\r\n" + bytes + "\r\n";
 }
 
-QByteArray MultipartForm::body() const {
+QByteArray MultipartForm::body() const
+{
     return m_parts + "--" + m_boundary.toUtf8() + "--\r\n";
 }
 
-QString MultipartForm::sanitiseFilename(const QString& name) {
+QString MultipartForm::sanitiseFilename(const QString& name)
+{
     QString clean = name;
     clean.replace(QLatin1Char('"'), QLatin1Char('\''));
     clean.remove(QLatin1Char('\r'));

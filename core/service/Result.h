@@ -12,9 +12,13 @@ template <class T, class E = APIError>
 class Result {
 public:
     Result(T value)
-        : m_state(std::in_place_index<0>, std::move(value)) {}
+        : m_state(std::in_place_index<0>, std::move(value))
+    {
+    }
     Result(E error)
-        : m_state(std::in_place_index<1>, std::move(error)) {}
+        : m_state(std::in_place_index<1>, std::move(error))
+    {
+    }
 
     bool ok() const { return m_state.index() == 0; }
     explicit operator bool() const { return ok(); }

@@ -4,7 +4,8 @@
 
 namespace vl {
 
-QString ConfigPayload::Entry::label(Lang lang) const {
+QString ConfigPayload::Entry::label(Lang lang) const
+{
     if (const auto it = labels.find(rawValue(lang)); it != labels.end())
         return it->second;
     if (const auto it = labels.find(QStringLiteral("en")); it != labels.end())
@@ -12,7 +13,8 @@ QString ConfigPayload::Entry::label(Lang lang) const {
     return key;
 }
 
-bool ConfigPayload::isOn(Feature feature) const {
+bool ConfigPayload::isOn(Feature feature) const
+{
     if (!features)
         return true;
     const auto flag = [&]() -> const std::optional<bool>& {
@@ -33,7 +35,8 @@ bool ConfigPayload::isOn(Feature feature) const {
     return flag.value_or(true);
 }
 
-QString labelOf(const std::vector<ConfigPayload::Entry>& list, const QString& key, Lang lang) {
+QString labelOf(const std::vector<ConfigPayload::Entry>& list, const QString& key, Lang lang)
+{
     const auto it = std::find_if(list.begin(), list.end(), [&](const ConfigPayload::Entry& entry) {
         return entry.key == key;
     });

@@ -4,14 +4,16 @@ namespace vl {
 
 namespace {
 
-std::optional<QString> nonEmpty(const std::optional<QString>& text) {
+std::optional<QString> nonEmpty(const std::optional<QString>& text)
+{
     return text && !text->isEmpty() ? text : std::nullopt;
 }
 
 } // namespace
 
 std::optional<UpdateRequired> updateRequired(const ConfigPayload& config, qint64 build,
-                                             const QString& site) {
+                                             const QString& site)
+{
     if (!config.minBuild || *config.minBuild < 1 || build >= *config.minBuild)
         return std::nullopt;
     const QString store =
@@ -19,7 +21,8 @@ std::optional<UpdateRequired> updateRequired(const ConfigPayload& config, qint64
     return UpdateRequired{store, nonEmpty(config.testflightUrl).value_or(store)};
 }
 
-std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint64 build) {
+std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint64 build)
+{
     if (!config.latestBuild || build >= *config.latestBuild)
         return std::nullopt;
     const auto url = config.updateUrl ? config.updateUrl : config.storeUrl;

@@ -21,25 +21,29 @@ class APIClientTest : public testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(sandbox.started()) << sandbox.output().toStdString(); }
 
-    void fault(const char* method, const QString& path, QJsonObject body) {
+    void fault(const char* method, const QString& path, QJsonObject body)
+    {
         body.insert(QStringLiteral("method"), QLatin1StringView(method));
         body.insert(QStringLiteral("path"), path);
         sandbox.devPost(QStringLiteral("/dev/fault"), QJsonDocument(body).toJson());
     }
 
     // The newest request the sandbox received, as it recorded it.
-    QJsonObject lastRequest() const {
+    QJsonObject lastRequest() const
+    {
         return sandbox.devGet(QStringLiteral("/dev/requests")).toArray().first().toObject();
     }
 
-    static QStringList headerNames(const QJsonObject& request) {
+    static QStringList headerNames(const QJsonObject& request)
+    {
         QStringList names;
         for (const auto& header : request.value(QStringLiteral("headers")).toArray())
             names << header.toArray().first().toString().toLower();
         return names;
     }
 
-    static QString header(const QJsonObject& request, const QString& name) {
+    static QString header(const QJsonObject& request, const QString& name)
+    {
         for (const auto& header : request.value(QStringLiteral("headers")).toArray()) {
             if (header.toArray().first().toString().compare(name, Qt::CaseInsensitive) == 0)
                 return header.toArray().last().toString();
@@ -47,7 +51,8 @@ protected:
         return {};
     }
 
-    static QByteArray body(const QJsonObject& request) {
+    static QByteArray body(const QJsonObject& request)
+    {
         return QByteArray::fromBase64(request.value(QStringLiteral("body")).toString().toLatin1());
     }
 
@@ -59,7 +64,8 @@ protected:
 
 } // namespace
 
-TEST_F(APIClientTest, ReadsTheTaxonomyAndSendsOnlyItsOwnHeaders) {
+TEST_F(APIClientTest, ReadsTheTaxonomyAndSendsOnlyItsOwnHeaders)
+{
     const auto config = wait(api.config(nullptr));
     ASSERT_TRUE(config);
     EXPECT_GE(config->categories.size(), 10u);
@@ -76,7 +82,8 @@ TEST_F(APIClientTest, ReadsTheTaxonomyAndSendsOnlyItsOwnHeaders) {
             << absent << " in " << names.join(QLatin1Char(',')).toStdString();
 }
 
-TEST_F(APIClientTest, WritesCarryTheClientTagOriginTokenAndExactBody) {
+TEST_F(APIClientTest, WritesCarryTheClientTagOriginTokenAndExactBody)
+{
     token = QStringLiteral("t0k");
     wait(api.authLogout(QStringLiteral("push"), QString(), nullptr));
     const QJsonObject request = lastRequest();
@@ -91,7 +98,8 @@ TEST_F(APIClientTest, WritesCarryTheClientTagOriginTokenAndExactBody) {
         EXPECT_FALSE(names.contains(QLatin1StringView(absent))) << absent;
 }
 
-TEST_F(APIClientTest, MultipartBodiesArriveByteForByte) {
+TEST_F(APIClientTest, MultipartBodiesArriveByteForByte)
+{
     MultipartForm form;
     form.text(QStringLiteral("key"), QStringLiteral("k1"));
     static const char pdf[] = "%PDF-1.4\x00\xff";
@@ -109,7 +117,8 @@ TEST_F(APIClientTest, MultipartBodiesArriveByteForByte) {
     EXPECT_TRUE(body(request).contains("filename=\"a'b.pdf\""));
 }
 
-TEST_F(APIClientTest, FaultsBecomeTheirErrors) {
+TEST_F(APIClientTest, FaultsBecomeTheirErrors)
+{
     const QString config = QStringLiteral("/api/app/v1/config");
     fault("GET", config,
           {{"mode", "status"}, {"status", 500}, {"body", "envelope"}, {"code", "rate"}});
@@ -131,7 +140,8 @@ TEST_F(APIClientTest, FaultsBecomeTheirErrors) {
     EXPECT_TRUE(wait(api.config(nullptr)));
 }
 
-TEST_F(APIClientTest, AnOversizedChatSendIsARefusalOfSize) {
+TEST_F(APIClientTest, AnOversizedChatSendIsARefusalOfSize)
+{
     fault("POST", QStringLiteral("/api/app/v1/applications/7"),
           {{"mode", "status"}, {"status", 413}, {"body", "html"}});
     const auto sent = wait(api.chatSend<Nothing>({.shape = APIClient::Shape::jsonWrite,
@@ -144,7 +154,8 @@ TEST_F(APIClientTest, AnOversizedChatSendIsARefusalOfSize) {
     EXPECT_EQ(sent.value().error(), (ChatRefusal{QStringLiteral("size"), std::nullopt, 413}));
 }
 
-TEST_F(APIClientTest, SlowAnswersPastTheTimeOutAndGoneOwnersEndAsNetwork) {
+TEST_F(APIClientTest, SlowAnswersPastTheTimeOutAndGoneOwnersEndAsNetwork)
+{
     fault("GET", QStringLiteral("/api/app/v1/config"), {{"mode", "slow"}, {"delay", 3}});
     const auto slow = wait(
         api.call<ConfigPayload>({.path = QStringLiteral("config"), .timeoutMs = 300}, nullptr));

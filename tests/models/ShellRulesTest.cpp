@@ -16,7 +16,8 @@ namespace {
 const QString deadSite = QStringLiteral("http://127.0.0.1:9");
 
 std::unique_ptr<AppContext> contextWith(const QStringList& languages,
-                                        const std::optional<QString>& storedLang = {}) {
+                                        const std::optional<QString>& storedLang = {})
+{
     // The stored language must be in place before AppState is built.
     PlatformBindings platform;
     auto preferences = std::make_unique<MemoryPreferences>();
@@ -32,7 +33,8 @@ std::unique_ptr<AppContext> contextWith(const QStringList& languages,
 
 } // namespace
 
-TEST(Language, ChosenOnceFromTheStoredValueOrTheSystem) {
+TEST(Language, ChosenOnceFromTheStoredValueOrTheSystem)
+{
     struct Case {
         QStringList system;
         std::optional<QString> stored;
@@ -63,7 +65,8 @@ TEST(Language, ChosenOnceFromTheStoredValueOrTheSystem) {
     EXPECT_EQ(context->preferences().string(QStringLiteral("vl.lang")), QStringLiteral("ru"));
 }
 
-TEST(VersionGate, BuildNumbersAndGates) {
+TEST(VersionGate, BuildNumbersAndGates)
+{
     constexpr qint64 largest = std::numeric_limits<qint64>::max();
     EXPECT_EQ(parseBuildNumber(QStringLiteral("42")), 42);
     EXPECT_EQ(parseBuildNumber(QStringLiteral("+42")), 42);
@@ -99,7 +102,8 @@ TEST(VersionGate, BuildNumbersAndGates) {
     EXPECT_FALSE(updateAvailable(latest, 60));
 }
 
-TEST(SecretStore, SoftValuesFallBackToPreferencesOnlyWhenTheStoreLosesThem) {
+TEST(SecretStore, SoftValuesFallBackToPreferencesOnlyWhenTheStoreLosesThem)
+{
     MemoryPreferences preferences;
     MemorySecretStore store(preferences);
     wait(store.softSet(QStringLiteral("v1"), QStringLiteral("support-key")));
@@ -113,7 +117,8 @@ TEST(SecretStore, SoftValuesFallBackToPreferencesOnlyWhenTheStoreLosesThem) {
     EXPECT_EQ(wait(store.softGet(QStringLiteral("missing"))), std::nullopt);
 }
 
-TEST(Session, ClearingForgetsTheEmployerAndOnlyAnAdoptedJobSeeker) {
+TEST(Session, ClearingForgetsTheEmployerAndOnlyAnAdoptedJobSeeker)
+{
     auto context = contextWith({QStringLiteral("en")});
     MemorySecretStore& secrets = secretsOf(*context);
     secrets.items.insert(QStringLiteral("session"), QStringLiteral("tok"));
@@ -146,7 +151,8 @@ TEST(Session, ClearingForgetsTheEmployerAndOnlyAnAdoptedJobSeeker) {
     EXPECT_EQ(left.first().name(), QByteArray("theme"));
 }
 
-TEST(Session, ANetworkFailureNeverSignsAnybodyOut) {
+TEST(Session, ANetworkFailureNeverSignsAnybodyOut)
+{
     auto context = contextWith({QStringLiteral("en")});
     secretsOf(*context).items.insert(QStringLiteral("session"), QStringLiteral("tok"));
     wait(context->start());
@@ -161,7 +167,8 @@ TEST(Session, ANetworkFailureNeverSignsAnybodyOut) {
     EXPECT_FALSE(context->auth.token());
 }
 
-TEST(Session, AdoptionIsOfferedOnlyToAFreshJobSeekerSide) {
+TEST(Session, AdoptionIsOfferedOnlyToAFreshJobSeekerSide)
+{
     auto context = contextWith({QStringLiteral("en")});
     wait(context->auth.adoptSeekerIdentity()); // no employer: nothing to offer, nothing asked
     EXPECT_FALSE(context->candidate.email());

@@ -12,7 +12,8 @@ namespace vl::test {
 class MemoryPreferences final : public Preferences {
 public:
     QVariant value(const QString& key) const override { return m_values.value(key); }
-    void setValue(const QString& key, const QVariant& value) override {
+    void setValue(const QString& key, const QVariant& value) override
+    {
         m_values.insert(key, value);
     }
     void remove(const QString& key) override { m_values.remove(key); }

@@ -23,8 +23,9 @@ QByteArray exchange(quint16 port, const QByteArray& method, const QString& path,
         return {};
     QByteArray request = method + ' ' + path.toUtf8() + " HTTP/1.0\r\nHost: 127.0.0.1\r\n";
     if (!body.isEmpty())
-        request += "Content-Type: application/json\r\nContent-Length: " +
-                   QByteArray::number(body.size()) + "\r\n";
+        request +=
+            "Content-Type: application/json\r\nContent-Length: " + QByteArray::number(body.size()) +
+            "\r\n";
     request += "\r\n" + body;
     socket.write(request);
     QByteArray answer;

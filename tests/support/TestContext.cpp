@@ -5,7 +5,8 @@
 
 namespace vl::test {
 
-std::unique_ptr<AppContext> makeContext(const TestContextOptions& options) {
+std::unique_ptr<AppContext> makeContext(const TestContextOptions& options)
+{
     PlatformBindings platform;
     platform.preferences = std::make_unique<MemoryPreferences>();
     if (options.realSecretService)
@@ -19,11 +20,13 @@ std::unique_ptr<AppContext> makeContext(const TestContextOptions& options) {
     return std::make_unique<AppContext>(std::move(platform));
 }
 
-MemoryPreferences& preferencesOf(AppContext& context) {
+MemoryPreferences& preferencesOf(AppContext& context)
+{
     return static_cast<MemoryPreferences&>(context.preferences());
 }
 
-MemorySecretStore& secretsOf(AppContext& context) {
+MemorySecretStore& secretsOf(AppContext& context)
+{
     return static_cast<MemorySecretStore&>(context.secrets());
 }
 

@@ -26,7 +26,8 @@ MemorySecretStore& secretsOf(AppContext& context);
 
 // Runs a task to its end on a nested event loop. Results need no default value.
 template <class T>
-T wait(QCoro::Task<T>&& task) {
+T wait(QCoro::Task<T>&& task)
+{
     if constexpr (std::is_void_v<T>) {
         QCoro::waitFor(std::move(task));
     } else {

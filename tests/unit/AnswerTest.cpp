@@ -8,7 +8,8 @@
 
 using namespace vl;
 
-TEST(Answer, EnvelopeDecidesBeforeStatus) {
+TEST(Answer, EnvelopeDecidesBeforeStatus)
+{
     const auto rate = answer::read<Done>(R"({"ok":false,"error":"rate"})", 500);
     ASSERT_FALSE(rate);
     EXPECT_EQ(rate.error(), APIError::server(QStringLiteral("rate")));
@@ -30,7 +31,8 @@ TEST(Answer, EnvelopeDecidesBeforeStatus) {
     EXPECT_EQ(answer::read<Nothing>(R"({"ok":true,"data":[]})", 200).error(), APIError::http(200));
 }
 
-TEST(Answer, ListsCarryTheirPaging) {
+TEST(Answer, ListsCarryTheirPaging)
+{
     const auto page = answer::readPage<Done>(
         R"({"ok":true,"data":[{"done":true}],"meta":{"page":1,"per":30,"total":31,"more":true,"postedToday":4}})",
         200);
@@ -46,7 +48,8 @@ TEST(Answer, ListsCarryTheirPaging) {
               APIError::server(QStringLiteral("generic")));
 }
 
-TEST(Answer, ChatSendsAreReadLoosely) {
+TEST(Answer, ChatSendsAreReadLoosely)
+{
     const auto tooLarge = answer::readChatSend<Done>("<html>413</html>", 413);
     ASSERT_FALSE(tooLarge);
     EXPECT_EQ(tooLarge.error(), (ChatRefusal{QStringLiteral("size"), std::nullopt, 413}));
@@ -70,7 +73,8 @@ TEST(Answer, ChatSendsAreReadLoosely) {
     EXPECT_TRUE(full.value()->done);
 }
 
-TEST(Bodies, MultipartIsWrittenByteForByte) {
+TEST(Bodies, MultipartIsWrittenByteForByte)
+{
     MultipartForm form(QStringLiteral("vl-B"));
     form.text(QStringLiteral("key"), QStringLiteral("k1"));
     form.textIfAny(QStringLiteral("note"), QString());
@@ -86,7 +90,8 @@ TEST(Bodies, MultipartIsWrittenByteForByte) {
     EXPECT_NE(MultipartForm().boundary(), MultipartForm().boundary());
 }
 
-TEST(Bodies, AbsentStringsAreLeftOut) {
+TEST(Bodies, AbsentStringsAreLeftOut)
+{
     EXPECT_EQ(stringBody({{QStringLiteral("a"), std::nullopt},
                           {QStringLiteral("b"), QStringLiteral("x")}}),
               QByteArray(R"({"b":"x"})"));

@@ -5,7 +5,8 @@
 using namespace vl::L10n;
 
 // The tables hold every key exactly once, split at callVoice, in declaration order.
-TEST(CatalogueCount, EveryKeyOnceInItsTable) {
+TEST(CatalogueCount, EveryKeyOnceInItsTable)
+{
     EXPECT_EQ(keyCount, 821);
     const auto main = mainRows();
     const auto calls = callsRows();

@@ -9,13 +9,15 @@ using namespace vl;
 
 namespace {
 
-QDateTime utc(int y, int mo, int d, int h, int mi) {
+QDateTime utc(int y, int mo, int d, int h, int mi)
+{
     return QDateTime(QDate(y, mo, d), QTime(h, mi), QTimeZone::utc());
 }
 
 } // namespace
 
-TEST(FormatSalary, OneAmountRangeOrNothing) {
+TEST(FormatSalary, OneAmountRangeOrNothing)
+{
     EXPECT_EQ(Format::salary(1200, 1200), QStringLiteral("₾1200"));
     EXPECT_EQ(Format::salary(std::nullopt, 1500), QStringLiteral("₾1500"));
     EXPECT_EQ(Format::salary(800, std::nullopt), QStringLiteral("₾800"));
@@ -25,7 +27,8 @@ TEST(FormatSalary, OneAmountRangeOrNothing) {
     EXPECT_EQ(Format::salary(0, std::nullopt), QStringLiteral("₾0"));
 }
 
-TEST(FormatGrouped, SeparatorsByLanguage) {
+TEST(FormatGrouped, SeparatorsByLanguage)
+{
     EXPECT_EQ(Format::grouped(1234567, Lang::en), QStringLiteral("1,234,567"));
     EXPECT_EQ(Format::grouped(1234567, Lang::ka), QStringLiteral("1,234,567"));
     EXPECT_EQ(Format::grouped(-1234, Lang::ru), QStringLiteral("-1\u00A0234"));
@@ -33,7 +36,8 @@ TEST(FormatGrouped, SeparatorsByLanguage) {
     EXPECT_EQ(Format::grouped(0, Lang::ka), QStringLiteral("0"));
 }
 
-TEST(FormatGrouped, GroupBoundaries) {
+TEST(FormatGrouped, GroupBoundaries)
+{
     EXPECT_EQ(Format::grouped(999, Lang::en), QStringLiteral("999"));
     EXPECT_EQ(Format::grouped(1000, Lang::en), QStringLiteral("1,000"));
     EXPECT_EQ(Format::grouped(-999, Lang::en), QStringLiteral("-999"));
@@ -44,7 +48,8 @@ TEST(FormatGrouped, GroupBoundaries) {
               QStringLiteral("9,223,372,036,854,775,807"));
 }
 
-TEST(FormatParseDate, BothInternetForms) {
+TEST(FormatParseDate, BothInternetForms)
+{
     const QDateTime expected = utc(2026, 3, 1, 9, 0);
     EXPECT_EQ(Format::parseDate(u"2026-03-01T09:00:00Z"), expected);
     EXPECT_EQ(Format::parseDate(u"2026-03-01T09:00:00.000Z"), expected);
@@ -52,7 +57,8 @@ TEST(FormatParseDate, BothInternetForms) {
     EXPECT_EQ(Format::parseDate(u"2026-03-01T09:00:00.250Z")->time().msec(), 250);
 }
 
-TEST(FormatParseDate, AnythingElseIsNoDate) {
+TEST(FormatParseDate, AnythingElseIsNoDate)
+{
     for (const char16_t* text :
          {u"", u"soon", u"2026-03-01", u"2026-03-01 09:00:00Z", u"2026-03-01T09:00:00",
           u"2026-02-30T09:00:00Z", u"2026-03-01T09:00:00Zjunk", u"2026-03-01T09:00:00.Z"})
@@ -60,7 +66,8 @@ TEST(FormatParseDate, AnythingElseIsNoDate) {
             << QStringView(text).toString().toStdString();
 }
 
-TEST(FormatStamp, ServiceZoneWallClock) {
+TEST(FormatStamp, ServiceZoneWallClock)
+{
     EXPECT_EQ(Format::stamp(QStringLiteral("2026-03-01T20:30:00Z")),
               QStringLiteral("02.03.2026 · 00:30"));
     EXPECT_EQ(Format::stamp(QStringLiteral("2026-03-01T05:07:00.999Z")),
@@ -69,12 +76,14 @@ TEST(FormatStamp, ServiceZoneWallClock) {
               QStringLiteral("01.01.2027 · 04:59"));
 }
 
-TEST(FormatStamp, UnreadableTextStaysAsItIs) {
+TEST(FormatStamp, UnreadableTextStaysAsItIs)
+{
     EXPECT_EQ(Format::stamp(QStringLiteral("soon")), QStringLiteral("soon"));
     EXPECT_EQ(Format::stamp(QString()), QString());
 }
 
-TEST(FormatDayStart, StartOfTheServiceDay) {
+TEST(FormatDayStart, StartOfTheServiceDay)
+{
     // 20:30 UTC is already the next day at UTC+4.
     const QDateTime now = utc(2026, 3, 1, 20, 30);
     EXPECT_EQ(Format::dayStart(0, now), utc(2026, 3, 1, 20, 0));
@@ -86,11 +95,13 @@ TEST(FormatDayStart, StartOfTheServiceDay) {
 // dateTime and date follow the machine's clock, unlike everything else here.
 class FormatLocalDates : public ::testing::Test {
 protected:
-    void SetUp() override {
+    void SetUp() override
+    {
         const char* previous = std::getenv("TZ");
         saved = previous ? std::optional<QByteArray>(previous) : std::nullopt;
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         if (saved)
             qputenv("TZ", *saved);
         else
@@ -102,7 +113,8 @@ private:
     std::optional<QByteArray> saved;
 };
 
-TEST_F(FormatLocalDates, ShortDateAndTimePerLanguage) {
+TEST_F(FormatLocalDates, ShortDateAndTimePerLanguage)
+{
     useZone("UTC0");
     const std::optional<QString> at = QStringLiteral("2026-03-01T09:05:00Z");
     EXPECT_EQ(Format::dateTime(at, Lang::en), QStringLiteral("3/1/26, 9:05 AM"));
@@ -110,7 +122,8 @@ TEST_F(FormatLocalDates, ShortDateAndTimePerLanguage) {
     EXPECT_EQ(Format::dateTime(at, Lang::ru), QStringLiteral("01.03.2026, 09:05"));
 }
 
-TEST_F(FormatLocalDates, MediumDatePerLanguage) {
+TEST_F(FormatLocalDates, MediumDatePerLanguage)
+{
     useZone("UTC0");
     const std::optional<QString> at = QStringLiteral("2026-03-01T09:05:00.000Z");
     EXPECT_EQ(Format::date(at, Lang::en), QStringLiteral("Mar 1, 2026"));
@@ -121,7 +134,8 @@ TEST_F(FormatLocalDates, MediumDatePerLanguage) {
     EXPECT_EQ(Format::date(may, Lang::ka), QStringLiteral("9 მაი. 2026"));
 }
 
-TEST_F(FormatLocalDates, FollowTheMachineZone) {
+TEST_F(FormatLocalDates, FollowTheMachineZone)
+{
     useZone("<+04>-4");
     const std::optional<QString> at = QStringLiteral("2026-03-01T20:30:00Z");
     EXPECT_EQ(Format::dateTime(at, Lang::en), QStringLiteral("3/2/26, 12:30 AM"));
@@ -130,7 +144,8 @@ TEST_F(FormatLocalDates, FollowTheMachineZone) {
     EXPECT_EQ(Format::dateTime(at, Lang::ru), QStringLiteral("01.03.2026, 15:30"));
 }
 
-TEST_F(FormatLocalDates, NothingForMissingOrUnreadable) {
+TEST_F(FormatLocalDates, NothingForMissingOrUnreadable)
+{
     EXPECT_EQ(Format::dateTime(std::nullopt, Lang::en), QString());
     EXPECT_EQ(Format::date(std::nullopt, Lang::ka), QString());
     EXPECT_EQ(Format::dateTime(QStringLiteral("tomorrow"), Lang::ru), QString());

@@ -13,7 +13,8 @@ using L10n::Key;
 
 namespace {
 
-QStringList placeholders(const QString& text) {
+QStringList placeholders(const QString& text)
+{
     static const QRegularExpression pattern(QStringLiteral("\\{[a-z0-9]+\\}"));
     QStringList found;
     for (auto it = pattern.globalMatch(text); it.hasNext();)
@@ -24,7 +25,8 @@ QStringList placeholders(const QString& text) {
 
 // Whether anything is left to translate once placeholders, symbols and the names that stay in
 // Latin letters are taken out.
-bool hasWords(QString text) {
+bool hasWords(QString text)
+{
     static const QRegularExpression kept(QStringLiteral(
         "\\{[a-z0-9]+\\}|Velmora|WhatsApp|Telegram|Signal|Google|TOTP|Pro|CV|PDF|DOCX|DOC|PNG|"
         "JPEG|JPG|WEBP|GIF|MB|macOS|ID"));
@@ -36,13 +38,15 @@ bool hasWords(QString text) {
     return false;
 }
 
-std::string name(Key key) {
+std::string name(Key key)
+{
     return QString(L10n::keyName(key)).toStdString();
 }
 
 // Runs `check` on every key and lists the keys it failed on, so that one run shows them all.
 template <typename Check>
-std::vector<std::string> failing(Check check) {
+std::vector<std::string> failing(Check check)
+{
     std::vector<std::string> failed;
     for (const Key key : L10n::allKeys()) {
         if (!check(key))
@@ -53,7 +57,8 @@ std::vector<std::string> failing(Check check) {
 
 } // namespace
 
-TEST(L10nCatalogue, EveryKeyHasTextInEveryLanguage) {
+TEST(L10nCatalogue, EveryKeyHasTextInEveryLanguage)
+{
     for (const Lang lang : allLangs) {
         EXPECT_EQ(failing([&](Key key) { return !L10n::text(key, lang).isEmpty(); }),
                   std::vector<std::string>())
@@ -61,7 +66,8 @@ TEST(L10nCatalogue, EveryKeyHasTextInEveryLanguage) {
     }
 }
 
-TEST(L10nCatalogue, EachLanguageIsInItsOwnScript) {
+TEST(L10nCatalogue, EachLanguageIsInItsOwnScript)
+{
     EXPECT_EQ(failing([](Key key) {
                   const QString ka = L10n::text(key, Lang::ka);
                   return (Translit::hasGeorgian(ka) || !hasWords(ka)) && !Translit::hasCyrillic(ka);
@@ -79,7 +85,8 @@ TEST(L10nCatalogue, EachLanguageIsInItsOwnScript) {
               std::vector<std::string>());
 }
 
-TEST(L10nCatalogue, PlaceholdersMatchAcrossLanguages) {
+TEST(L10nCatalogue, PlaceholdersMatchAcrossLanguages)
+{
     EXPECT_EQ(failing([](Key key) {
                   const QStringList en = placeholders(L10n::text(key, Lang::en));
                   return placeholders(L10n::text(key, Lang::ka)) == en &&
@@ -88,7 +95,8 @@ TEST(L10nCatalogue, PlaceholdersMatchAcrossLanguages) {
               std::vector<std::string>());
 }
 
-TEST(L10nCatalogue, TranslationsKeepTheMarksThatCarryMeaning) {
+TEST(L10nCatalogue, TranslationsKeepTheMarksThatCarryMeaning)
+{
     // The lari sign and the middle dot separate parts of a line; an ellipsis says "more comes".
     EXPECT_EQ(failing([](Key key) {
                   const QString en = L10n::text(key, Lang::en);
@@ -106,7 +114,8 @@ TEST(L10nCatalogue, TranslationsKeepTheMarksThatCarryMeaning) {
               std::vector<std::string>());
 }
 
-TEST(L10nCatalogue, NoStrayWhitespaceOrAsciiEllipsis) {
+TEST(L10nCatalogue, NoStrayWhitespaceOrAsciiEllipsis)
+{
     EXPECT_EQ(failing([](Key key) {
                   for (const Lang lang : allLangs) {
                       const QString text = L10n::text(key, lang);
@@ -119,7 +128,8 @@ TEST(L10nCatalogue, NoStrayWhitespaceOrAsciiEllipsis) {
               std::vector<std::string>());
 }
 
-TEST(L10nCatalogue, TranslationsAreNotLeftInEnglish) {
+TEST(L10nCatalogue, TranslationsAreNotLeftInEnglish)
+{
     EXPECT_EQ(failing([](Key key) {
                   const QString en = L10n::text(key, Lang::en);
                   return !hasWords(en) ||
@@ -128,7 +138,8 @@ TEST(L10nCatalogue, TranslationsAreNotLeftInEnglish) {
               std::vector<std::string>());
 }
 
-TEST(L10nText, EnglishTextsAsWritten) {
+TEST(L10nText, EnglishTextsAsWritten)
+{
     const std::vector<std::pair<Key, QString>> texts{
         {Key::idvSub, QStringLiteral("Optional. “ID checked” tells employers you are a real, "
                                      "specific person. Applications work exactly the same "
@@ -157,7 +168,8 @@ TEST(L10nText, EnglishTextsAsWritten) {
         EXPECT_EQ(L10n::text(key, Lang::en), english) << name(key);
 }
 
-TEST(L10nText, PlaceholderReplacement) {
+TEST(L10nText, PlaceholderReplacement)
+{
     EXPECT_EQ(L10n::text(Key::pushSentToDevices, Lang::en, 3),
               QStringLiteral("Sent to 3 device(s)."));
     EXPECT_EQ(L10n::text(Key::callMissedFrom, Lang::en, QStringLiteral("Nino")),
@@ -172,13 +184,15 @@ TEST(L10nText, PlaceholderReplacement) {
     }
 }
 
-TEST(L10nText, OtherPlaceholdersAreLeftForTheCaller) {
+TEST(L10nText, OtherPlaceholdersAreLeftForTheCaller)
+{
     EXPECT_EQ(L10n::text(Key::idvReadLine, Lang::en, 5), QStringLiteral("{doc}, expires {date}"));
     EXPECT_EQ(L10n::text(Key::posted, Lang::en, QStringLiteral("x")),
               QStringLiteral("Posted {date}"));
 }
 
-TEST(L10nText, KeyOutsideTheTablesGivesNothing) {
+TEST(L10nText, KeyOutsideTheTablesGivesNothing)
+{
     const auto outside = static_cast<Key>(L10n::keyCount);
     for (const Lang lang : allLangs) {
         EXPECT_EQ(L10n::text(outside, lang), QString());
@@ -187,7 +201,8 @@ TEST(L10nText, KeyOutsideTheTablesGivesNothing) {
     EXPECT_TRUE(L10n::keyName(outside).isEmpty());
 }
 
-TEST(L10nText, SameTextFromManyThreadsAtFirstUse) {
+TEST(L10nText, SameTextFromManyThreadsAtFirstUse)
+{
     std::vector<std::vector<QString>> seen(4);
     std::vector<std::thread> threads;
     for (auto& texts : seen) {
@@ -202,7 +217,8 @@ TEST(L10nText, SameTextFromManyThreadsAtFirstUse) {
         EXPECT_EQ(texts, seen.front());
 }
 
-TEST(L10nKeys, NamesRoundTrip) {
+TEST(L10nKeys, NamesRoundTrip)
+{
     EXPECT_EQ(L10n::keyName(Key::tabJobs), QLatin1StringView("tabJobs"));
     EXPECT_EQ(L10n::keyName(Key::reportDanger), QLatin1StringView("reportDanger"));
     EXPECT_EQ(
@@ -214,7 +230,8 @@ TEST(L10nKeys, NamesRoundTrip) {
     EXPECT_FALSE(L10n::keyFromName(u"zzz"));
 }
 
-TEST(L10nKeys, AllKeysInDeclarationOrder) {
+TEST(L10nKeys, AllKeysInDeclarationOrder)
+{
     const auto keys = L10n::allKeys();
     ASSERT_EQ(static_cast<int>(keys.size()), L10n::keyCount);
     for (std::size_t i = 0; i < keys.size(); ++i)
@@ -223,7 +240,8 @@ TEST(L10nKeys, AllKeysInDeclarationOrder) {
     EXPECT_EQ(keys.back(), Key::reportDanger);
 }
 
-TEST(L10nMacVariant, DeviceWordedTextsSwapToTheDesktop) {
+TEST(L10nMacVariant, DeviceWordedTextsSwapToTheDesktop)
+{
     const std::vector<std::pair<Key, Key>> pairs{
         {Key::fySavedOnPhone, Key::fySavedOnMac},
         {Key::candNoPasskey, Key::candNoPasskeyMac},

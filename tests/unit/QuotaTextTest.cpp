@@ -7,7 +7,8 @@
 using namespace vl;
 using QuotaText::Key;
 
-TEST(QuotaText, EveryKeyInEveryLanguage) {
+TEST(QuotaText, EveryKeyInEveryLanguage)
+{
     for (int i = 0; i <= static_cast<int>(Key::writeBlocked); ++i) {
         const auto key = static_cast<Key>(i);
         const QString en = QuotaText::text(key, Lang::en);
@@ -23,7 +24,8 @@ TEST(QuotaText, EveryKeyInEveryLanguage) {
     }
 }
 
-TEST(QuotaText, EnglishAndSubstitution) {
+TEST(QuotaText, EnglishAndSubstitution)
+{
     EXPECT_EQ(QuotaText::text(Key::locked, Lang::en), QStringLiteral("Not opened yet"));
     EXPECT_EQ(QuotaText::text(Key::count, Lang::en, 2, 5),
               QStringLiteral("Free applications this week: 2 of 5"));
@@ -38,7 +40,8 @@ TEST(QuotaText, EnglishAndSubstitution) {
     }
 }
 
-TEST(QuotaText, ValueOutsideTheEnumGivesNothing) {
+TEST(QuotaText, ValueOutsideTheEnumGivesNothing)
+{
     const auto outside = static_cast<Key>(static_cast<int>(Key::writeBlocked) + 1);
     EXPECT_EQ(QuotaText::text(outside, Lang::en), QString());
     EXPECT_EQ(QuotaText::text(outside, Lang::ka, 1, 2), QString());

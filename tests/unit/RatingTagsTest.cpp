@@ -5,19 +5,22 @@
 
 using namespace vl;
 
-TEST(RatingTags, LabelsInThreeLanguages) {
+TEST(RatingTags, LabelsInThreeLanguages)
+{
     EXPECT_EQ(RatingTags::label(u"on_time", Lang::en), QStringLiteral("On time"));
     EXPECT_EQ(RatingTags::label(u"again", Lang::ka), QStringLiteral("კიდევ ვიმუშავებდი ერთად"));
     EXPECT_EQ(RatingTags::label(u"no_show", Lang::ru), QStringLiteral("Не пришёл"));
     EXPECT_EQ(RatingTags::label(u"payment_issue", Lang::en), QStringLiteral("Payment issue"));
 }
 
-TEST(RatingTags, UnknownIdShowsAsItself) {
+TEST(RatingTags, UnknownIdShowsAsItself)
+{
     EXPECT_EQ(RatingTags::label(u"punctual", Lang::en), QStringLiteral("punctual"));
     EXPECT_EQ(RatingTags::label(u"On_time", Lang::ka), QStringLiteral("On_time"));
 }
 
-TEST(RatingTags, EachSideInItsOrderWithALabelForEvery) {
+TEST(RatingTags, EachSideInItsOrderWithALabelForEvery)
+{
     const QStringList worker{"on_time", "quality", "friendly", "again", "late", "no_show", "comms"};
     const QStringList employer{"paid", "clear", "respectful", "again", "payment_issue", "unclear"};
     QStringList offeredForWorker;

@@ -10,7 +10,8 @@ using namespace vl;
 
 namespace {
 
-QByteArray jobJson(const QByteArray& extra = {}) {
+QByteArray jobJson(const QByteArray& extra = {})
+{
     return R"({"ref":"VL1","kind":"vacancy","title":"Barista","employerName":"Cafe",
                "category":"hospitality","city":"tbilisi","employmentType":"full_time",
                "payType":"month","featured":false,"translated":false,"aggregated":false)" +
@@ -19,7 +20,8 @@ QByteArray jobJson(const QByteArray& extra = {}) {
 
 } // namespace
 
-TEST(StrictReading, RequiredFieldsMustBePresentAndOfTheirType) {
+TEST(StrictReading, RequiredFieldsMustBePresentAndOfTheirType)
+{
     EXPECT_TRUE(json::decode<JobSummary>(jobJson()));
     // A missing required key fails the whole record.
     EXPECT_FALSE(json::decode<JobSummary>(R"({"ref":"VL1"})"));
@@ -31,7 +33,8 @@ TEST(StrictReading, RequiredFieldsMustBePresentAndOfTheirType) {
         json::decode<JobSummary>(jobJson().replace(R"("featured":false)", R"("featured":0)")));
 }
 
-TEST(StrictReading, OptionalFieldsMayBeAbsentOrNullButNotMistyped) {
+TEST(StrictReading, OptionalFieldsMayBeAbsentOrNullButNotMistyped)
+{
     const auto withNulls =
         json::decode<JobSummary>(jobJson(R"(,"salaryMin":null,"employerRep":null)"));
     ASSERT_TRUE(withNulls);
@@ -42,7 +45,8 @@ TEST(StrictReading, OptionalFieldsMayBeAbsentOrNullButNotMistyped) {
     EXPECT_FALSE(json::decode<JobSummary>(jobJson(R"(,"employerRep":{"stars":4.5})")));
 }
 
-TEST(StrictReading, UnknownKeysAreIgnoredAndIntegersMustBeWhole) {
+TEST(StrictReading, UnknownKeysAreIgnoredAndIntegersMustBeWhole)
+{
     const auto job =
         json::decode<JobSummary>(jobJson(R"(,"brandNew":{"x":[1,2]},"salaryMax":1500)"));
     ASSERT_TRUE(job);
@@ -54,7 +58,8 @@ TEST(StrictReading, UnknownKeysAreIgnoredAndIntegersMustBeWhole) {
     EXPECT_FALSE(json::decode<JobSummary>("[]"));
 }
 
-TEST(StrictReading, WritingGivesBackWhatWasRead) {
+TEST(StrictReading, WritingGivesBackWhatWasRead)
+{
     const auto job = json::decode<JobSummary>(
         jobJson(R"(,"fit":{"score":81,"band":"good","bandShort":"Good"})"));
     ASSERT_TRUE(job);
@@ -68,7 +73,8 @@ TEST(StrictReading, WritingGivesBackWhatWasRead) {
     EXPECT_NE(qHash(changed), qHash(*job));
 }
 
-TEST(BoardDate, BumpFirstThenPublicationInTwoInternetFormats) {
+TEST(BoardDate, BumpFirstThenPublicationInTwoInternetFormats)
+{
     JobSummary job;
     job.bumpedAt = QStringLiteral("2026-03-01T09:00:00.000Z");
     ASSERT_TRUE(job.boardDate());
@@ -91,7 +97,8 @@ TEST(BoardDate, BumpFirstThenPublicationInTwoInternetFormats) {
     }
 }
 
-TEST(ConfigPayload, MissingFeaturesCountAsOnAndLabelsFallBack) {
+TEST(ConfigPayload, MissingFeaturesCountAsOnAndLabelsFallBack)
+{
     const auto config = json::decode<ConfigPayload>(
         R"({"rev":3,"locales":["ka","en","ru"],
             "categories":[{"key":"it","labels":{"ka":"IT ტექნოლოგიები","en":"IT"}}],
@@ -112,7 +119,8 @@ TEST(ConfigPayload, MissingFeaturesCountAsOnAndLabelsFallBack) {
     EXPECT_TRUE(partial->isOn(ConfigPayload::Feature::cvCheck));
 }
 
-TEST(SessionRecords, MeWithoutPlanOrNextStepDecodes) {
+TEST(SessionRecords, MeWithoutPlanOrNextStepDecodes)
+{
     const auto me = json::decode<MePayload>(
         R"({"employer":{"name":"Tone","email":"hr@tone.ge","locale":"ka","website":"","phone":""},
             "unread":2,"listings":5,"liveListings":4})");
@@ -122,7 +130,8 @@ TEST(SessionRecords, MeWithoutPlanOrNextStepDecodes) {
     EXPECT_EQ(me->employer.email, QStringLiteral("hr@tone.ge"));
 }
 
-TEST(FormSpec, UnknownSlotValuesCountAsOptional) {
+TEST(FormSpec, UnknownSlotValuesCountAsOptional)
+{
     EXPECT_EQ(FormSpecDTO::slotOf(QStringLiteral("required")), FormSpecDTO::Slot::required);
     EXPECT_EQ(FormSpecDTO::slotOf(QStringLiteral("off")), FormSpecDTO::Slot::off);
     EXPECT_EQ(FormSpecDTO::slotOf(QStringLiteral("optional")), FormSpecDTO::Slot::optional);

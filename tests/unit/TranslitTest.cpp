@@ -4,7 +4,8 @@
 
 using namespace vl;
 
-TEST(TranslitScripts, DetectsByBlock) {
+TEST(TranslitScripts, DetectsByBlock)
+{
     EXPECT_TRUE(Translit::hasGeorgian(u"Nino ნინო"));
     EXPECT_TRUE(Translit::hasGeorgian(u"\u10A0"));
     EXPECT_TRUE(Translit::hasGeorgian(u"\u10FF"));
@@ -15,7 +16,8 @@ TEST(TranslitScripts, DetectsByBlock) {
     EXPECT_FALSE(Translit::hasCyrillic(u""));
 }
 
-TEST(TranslitLatin, WordsStartWithCapitals) {
+TEST(TranslitLatin, WordsStartWithCapitals)
+{
     EXPECT_EQ(Translit::latin(u"თბილისი ბათუმი"), QStringLiteral("Tbilisi Batumi"));
     EXPECT_EQ(Translit::latin(u"щука"), QStringLiteral("Shchuka"));
     EXPECT_EQ(Translit::latin(u"შოთა"), QStringLiteral("Shota"));
@@ -24,7 +26,8 @@ TEST(TranslitLatin, WordsStartWithCapitals) {
     EXPECT_EQ(Translit::latin(u"(ღვინო)"), QStringLiteral("(Ghvino)"));
 }
 
-TEST(TranslitLatin, EmptyReplacementsAndOtherLetters) {
+TEST(TranslitLatin, EmptyReplacementsAndOtherLetters)
+{
     EXPECT_EQ(Translit::latin(u""), QString());
     EXPECT_EQ(Translit::latin(u"ъ"), QString());
     // A hard sign still ends the word start, so the next letter stays small.
@@ -36,12 +39,14 @@ TEST(TranslitLatin, EmptyReplacementsAndOtherLetters) {
     EXPECT_EQ(Translit::latin(u"Tbilisi"), QStringLiteral("Tbilisi"));
 }
 
-TEST(TranslitLatin, CapitalsAreLookedUpInLowerCase) {
+TEST(TranslitLatin, CapitalsAreLookedUpInLowerCase)
+{
     EXPECT_EQ(Translit::latin(u"ЁЛКА"), QStringLiteral("Yolka"));
     EXPECT_EQ(Translit::latin(u"Щ"), QStringLiteral("Shch"));
 }
 
-TEST(TranslitSubtitle, ByReaderAndScript) {
+TEST(TranslitSubtitle, ByReaderAndScript)
+{
     EXPECT_FALSE(Translit::subtitle(QStringLiteral("Nino"), Lang::en));
     EXPECT_EQ(Translit::subtitle(QStringLiteral("Нино"), Lang::ka), QStringLiteral("Nino"));
     EXPECT_FALSE(Translit::subtitle(QStringLiteral("ნინო"), Lang::ka));
@@ -51,7 +56,8 @@ TEST(TranslitSubtitle, ByReaderAndScript) {
     EXPECT_EQ(Translit::subtitle(QStringLiteral("Нино"), Lang::en), QStringLiteral("Nino"));
 }
 
-TEST(TranslitSubtitle, TrimmedAndMixedNames) {
+TEST(TranslitSubtitle, TrimmedAndMixedNames)
+{
     EXPECT_EQ(Translit::subtitle(QStringLiteral("  ნინო ბერიძე\n"), Lang::en),
               QStringLiteral("Nino Beridze"));
     EXPECT_FALSE(Translit::subtitle(QStringLiteral(" \n\t"), Lang::en));
