@@ -1,6 +1,7 @@
 #include "app/cli/ApiCommand.h"
 #include "app/cli/CliOutput.h"
 #include "app/cli/ShellCommands.h"
+#include "app/cli/TextsCommand.h"
 #include "app/shell/AppContext.h"
 
 #include <QCoreApplication>
@@ -21,7 +22,9 @@ QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args)
         co_return runLang(context, args);
     if (command == QLatin1StringView("employer"))
         co_return co_await runEmployer(context, args);
-    co_return printUsage(QStringLiteral("usage: velmora-cli api|boot|lang|employer ..."));
+    if (command == QLatin1StringView("texts"))
+        co_return runTexts(args);
+    co_return printUsage(QStringLiteral("usage: velmora-cli api|boot|lang|employer|texts ..."));
 }
 
 } // namespace

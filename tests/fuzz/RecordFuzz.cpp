@@ -1,0 +1,37 @@
+// Every decoder of the service's answers, fed the same bytes: none may crash, hang or read out of
+// bounds, whatever arrives.
+
+#include "core/discovery/BoardSummary.h"
+#include "core/discovery/JobDetail.h"
+#include "core/format/Iso8601.h"
+#include "core/identity/CandidateReplies.h"
+#include "core/service/Answer.h"
+#include "core/service/SmallResults.h"
+#include "core/session/ConfigPayload.h"
+#include "core/session/MePayload.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace vl;
+    const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
+    for (const int status : {200, 413}) {
+        (void)answer::read<ConfigPayload>(bytes, status);
+        (void)answer::read<JobDetail>(bytes, status);
+        (void)answer::read<BoardSummary>(bytes, status);
+        (void)answer::read<MePayload>(bytes, status);
+        (void)answer::read<AuthVerifyPayload>(bytes, status);
+        (void)answer::read<Nothing>(bytes, status);
+        (void)answer::readPage<JobSummary>(bytes, status);
+        (void)answer::readChatSend<Done>(bytes, status);
+        (void)candidateReply::readEnvelope<Adopted>(bytes, status);
+    }
+    if (const auto page = answer::readPage<JobSummary>(bytes, 200)) {
+        for (const JobSummary& job : page->items)
+            (void)job.boardDate();
+    }
+    (void)parseIso8601(QString::fromUtf8(bytes));
+    return 0;
+}
