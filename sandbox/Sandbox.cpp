@@ -1,9 +1,11 @@
 #include "sandbox/Sandbox.h"
 
 #include "sandbox/routes/AuthRoutes.h"
+#include "sandbox/routes/BoardRoutes.h"
 #include "sandbox/routes/ConfigRoutes.h"
 #include "sandbox/routes/DevRoutes.h"
 #include "sandbox/seed/EmployerSeed.h"
+#include "sandbox/seed/ListingSeed.h"
 
 #include <QTextStream>
 
@@ -36,7 +38,7 @@ bool Sandbox::start() {
 
 void Sandbox::seed() {
     m_store.begin();
-    EmployerSeed::write(m_store, m_clock);
+    ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
     m_store.markSeeded();
     m_store.commit();
 }
@@ -45,6 +47,7 @@ void Sandbox::installRoutes() {
     DevRoutes::install(m_router, m_context);
     ConfigRoutes::install(m_router, m_context);
     AuthRoutes::install(m_router, m_context);
+    BoardRoutes::install(m_router, m_context);
 }
 
 } // namespace vl

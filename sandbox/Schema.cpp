@@ -52,6 +52,7 @@ QStringList statements() {
             employment_type TEXT NOT NULL,
             salary_min INTEGER, salary_max INTEGER,
             pay_type TEXT NOT NULL,
+            pay_rank INTEGER,
             featured INTEGER NOT NULL DEFAULT 0,
             aggregated INTEGER NOT NULL DEFAULT 0,
             direct INTEGER NOT NULL DEFAULT 0,

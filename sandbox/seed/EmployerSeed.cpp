@@ -49,6 +49,11 @@ QVariant orNull(const QString& value) {
     return value.isEmpty() ? QVariant() : QVariant(value);
 }
 
+// An empty text column holds "", never NULL.
+QString orEmpty(const QString& value) {
+    return value.isNull() ? QStringLiteral("") : value;
+}
+
 } // namespace
 
 QHash<QString, qint64> write(Store& store, const Clock& clock) {
@@ -66,13 +71,13 @@ QHash<QString, qint64> write(Store& store, const Clock& clock) {
         const bool pro = desk && desk->proDays > 0;
         Store::run(insert, {company.key,
                             orNull(company.email),
-                            company.name.en,
+                            company.name.in(company.locale),
                             company.name.ka,
                             company.name.en,
                             company.name.ru,
                             company.locale,
-                            company.website,
-                            company.phone,
+                            orEmpty(company.website),
+                            orEmpty(company.phone),
                             desk ? desk->unread : 0,
                             desk ? desk->applications : 0,
                             desk ? desk->newApplications : 0,
