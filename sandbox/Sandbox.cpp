@@ -2,10 +2,14 @@
 
 #include "sandbox/routes/AuthRoutes.h"
 #include "sandbox/routes/BoardRoutes.h"
+#include "sandbox/routes/CandidateRoutes.h"
 #include "sandbox/routes/ConfigRoutes.h"
 #include "sandbox/routes/DevRoutes.h"
+#include "sandbox/routes/MfaRoutes.h"
+#include "sandbox/routes/OAuthRoutes.h"
 #include "sandbox/seed/EmployerSeed.h"
 #include "sandbox/seed/ListingSeed.h"
+#include "sandbox/seed/SeekerSeed.h"
 
 #include <QTextStream>
 
@@ -39,6 +43,7 @@ bool Sandbox::start() {
 void Sandbox::seed() {
     m_store.begin();
     ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
+    SeekerSeed::write(m_store, m_clock);
     m_store.markSeeded();
     m_store.commit();
 }
@@ -48,6 +53,9 @@ void Sandbox::installRoutes() {
     ConfigRoutes::install(m_router, m_context);
     AuthRoutes::install(m_router, m_context);
     BoardRoutes::install(m_router, m_context);
+    CandidateRoutes::install(m_router, m_context);
+    MfaRoutes::install(m_router, m_context);
+    OAuthRoutes::install(m_router, m_context);
 }
 
 } // namespace vl
