@@ -1,7 +1,15 @@
 #include "sandbox/Sandbox.h"
 
+#include "sandbox/routes/AuthRoutes.h"
+#include "sandbox/routes/BoardRoutes.h"
+#include "sandbox/routes/CandidateRoutes.h"
 #include "sandbox/routes/ConfigRoutes.h"
 #include "sandbox/routes/DevRoutes.h"
+#include "sandbox/routes/MfaRoutes.h"
+#include "sandbox/routes/OAuthRoutes.h"
+#include "sandbox/seed/EmployerSeed.h"
+#include "sandbox/seed/ListingSeed.h"
+#include "sandbox/seed/SeekerSeed.h"
 
 #include <QTextStream>
 
@@ -34,6 +42,8 @@ bool Sandbox::start() {
 
 void Sandbox::seed() {
     m_store.begin();
+    ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
+    SeekerSeed::write(m_store, m_clock);
     m_store.markSeeded();
     m_store.commit();
 }
@@ -41,6 +51,11 @@ void Sandbox::seed() {
 void Sandbox::installRoutes() {
     DevRoutes::install(m_router, m_context);
     ConfigRoutes::install(m_router, m_context);
+    AuthRoutes::install(m_router, m_context);
+    BoardRoutes::install(m_router, m_context);
+    CandidateRoutes::install(m_router, m_context);
+    MfaRoutes::install(m_router, m_context);
+    OAuthRoutes::install(m_router, m_context);
 }
 
 } // namespace vl

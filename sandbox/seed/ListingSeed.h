@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+namespace vl {
+
+class Clock;
+class Store;
+
+// The board's listings, made from roles, companies and cities with a fixed random seed: the same
+// refs hold the same listings on every run, and their dates are relative to the sandbox clock.
+namespace ListingSeed {
+
+void write(Store& store, const Clock& clock, const QHash<QString, qint64>& employers);
+
+} // namespace ListingSeed
+
+} // namespace vl
