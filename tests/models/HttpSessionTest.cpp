@@ -167,6 +167,7 @@ TEST_F(HttpSessionTest, WritesOnlyTheFieldsTheCallerSet) {
     for (int i = 0; i < 6; ++i)
         server.script(Answer::with(ok("{}")));
 
+    QSignalSpy sessionFinished(&session, &QNetworkAccessManager::finished);
     QNetworkRequest read(server.url(QStringLiteral("/api/app/v1/jobs?page=2&q=a%20b#frag")));
     read.setRawHeader("x-vl-client", "ios");
     read.setRawHeader("Authorization", "Bearer tok");
@@ -186,6 +187,7 @@ TEST_F(HttpSessionTest, WritesOnlyTheFieldsTheCallerSet) {
     EXPECT_TRUE(waitFinished(session.sendCustomRequest(bare, "PATCH", QByteArray("p"))));
     EXPECT_TRUE(waitFinished(session.head(bare)));
 
+    EXPECT_EQ(sessionFinished.size(), 6);
     const QByteArray host = "Host: " + server.host() + "\r\n";
     ASSERT_EQ(server.requests.size(), 6);
     EXPECT_EQ(server.requests[0], "GET /api/app/v1/jobs?page=2&q=a%20b HTTP/1.1\r\n" + host +
@@ -340,6 +342,18 @@ TEST(HttpResponseParserTest, DecodesAnswersDeliveredOneByteAtATime) {
         vl::HttpResponseParser parser;
         EXPECT_FALSE(parser.feed(wire)) << wire.constData();
     }
+
+    // A body that ends with the connection, or bytes nobody asked for, leave nothing to reuse.
+    vl::HttpResponseParser closing;
+    ASSERT_TRUE(closing.feed("HTTP/1.1 200 OK\r\n\r\nabc"));
+    EXPECT_FALSE(closing.isComplete());
+    EXPECT_TRUE(closing.finishAtClose());
+    EXPECT_EQ(closing.takeBody(), "abc");
+    EXPECT_FALSE(closing.keepsConnection());
+    vl::HttpResponseParser extra;
+    ASSERT_TRUE(extra.feed("HTTP/1.1 200 OK\r\nContent-Length: 1\r\n\r\nzHTTP/1.1"));
+    EXPECT_TRUE(extra.isComplete());
+    EXPECT_FALSE(extra.keepsConnection());
 
     vl::HttpResponseParser head(true);
     ASSERT_TRUE(head.feed("HTTP/1.1 200 OK\r\nContent-Length: 40\r\n\r\n"));

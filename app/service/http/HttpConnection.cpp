@@ -161,8 +161,10 @@ void HttpConnection::readAvailable() {
             return;
     }
     passBody();
+    // A server may answer before it has read the whole request (a refusal of a large upload);
+    // the rest of that request would then reach it as the start of the next one.
     if (m_phase == Phase::Exchanging && m_parser.isComplete())
-        finishExchange(m_parser.keepsConnection() &&
+        finishExchange(m_parser.keepsConnection() && m_socket->bytesToWrite() == 0 &&
                        m_socket->state() == QAbstractSocket::ConnectedState);
 }
 

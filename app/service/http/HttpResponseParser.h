@@ -24,8 +24,6 @@ public:
     bool hasReceivedAnything() const { return m_receivedAnything; }
     bool hasHead() const { return m_state > State::Head; }
     bool isComplete() const { return m_state == State::Complete; }
-    bool hasFailed() const { return m_state == State::Failed; }
-    bool hasLeftover() const { return m_pos < m_input.size(); }
     const HttpResponseHead& head() const { return m_head; }
     // Total body length the answer announced, or -1 when it is not known in advance.
     qint64 announcedLength() const;
@@ -54,6 +52,7 @@ private:
     // The next line without its line end, or false when no full line is buffered yet.
     bool nextLine(QByteArrayView& line);
     bool fail();
+    bool hasLeftover() const { return m_pos < m_input.size(); }
 
     bool m_answersHead;
     bool m_receivedAnything = false;
