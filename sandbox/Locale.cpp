@@ -2,13 +2,15 @@
 
 namespace vl {
 
-QString normalizeLocale(const QString& value) {
+QString normalizeLocale(const QString& value)
+{
     if (value == QLatin1String("en") || value == QLatin1String("ru"))
         return value;
     return QStringLiteral("ka");
 }
 
-const QString& Trilingual::in(const QString& lang) const {
+const QString& Trilingual::in(const QString& lang) const
+{
     if (lang == QLatin1String("en"))
         return en;
     if (lang == QLatin1String("ru"))

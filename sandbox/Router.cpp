@@ -6,18 +6,21 @@ namespace vl {
 
 namespace {
 
-bool isPlaceholder(const QString& segment) {
+bool isPlaceholder(const QString& segment)
+{
     return segment.size() > 2 && segment.startsWith(u'{') && segment.endsWith(u'}');
 }
 
 } // namespace
 
-void Router::add(const QByteArray& method, const QString& pattern, Handler handler) {
+void Router::add(const QByteArray& method, const QString& pattern, Handler handler)
+{
     m_routes.append({method, pattern.split(u'/', Qt::SkipEmptyParts), std::move(handler)});
 }
 
 // The number of placeholders the route needed to match, or -1 when it doesn't match.
-int Router::match(const Route& route, const QStringList& segments, Request* request) {
+int Router::match(const Route& route, const QStringList& segments, Request* request)
+{
     if (route.segments.size() != segments.size())
         return -1;
     int placeholders = 0;
@@ -34,7 +37,8 @@ int Router::match(const Route& route, const QStringList& segments, Request* requ
     return placeholders;
 }
 
-Reply Router::dispatch(Request request) const {
+Reply Router::dispatch(Request request) const
+{
     const QStringList segments = request.path.split(u'/', Qt::SkipEmptyParts);
     const Route* best = nullptr;
     int bestScore = -1;

@@ -20,9 +20,12 @@ Sandbox::Sandbox(SandboxOptions options)
     , m_clock(m_options.now)
     , m_outbox(m_clock)
     , m_context{m_store, m_clock, m_outbox, m_requests, m_faults, m_options}
-    , m_server(m_router, m_requests, m_faults) {}
+    , m_server(m_router, m_requests, m_faults)
+{
+}
 
-bool Sandbox::start() {
+bool Sandbox::start()
+{
     if (!m_store.open(m_options.database))
         return false;
     if (m_store.needsSeed())
@@ -40,7 +43,8 @@ bool Sandbox::start() {
     return true;
 }
 
-void Sandbox::seed() {
+void Sandbox::seed()
+{
     m_store.begin();
     ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
     SeekerSeed::write(m_store, m_clock);
@@ -48,7 +52,8 @@ void Sandbox::seed() {
     m_store.commit();
 }
 
-void Sandbox::installRoutes() {
+void Sandbox::installRoutes()
+{
     DevRoutes::install(m_router, m_context);
     ConfigRoutes::install(m_router, m_context);
     AuthRoutes::install(m_router, m_context);

@@ -11,20 +11,23 @@ namespace vl {
 
 namespace {
 
-QString defaultDatabase() {
+QString defaultDatabase()
+{
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(folder);
     return folder + QStringLiteral("/sandbox.sqlite");
 }
 
-std::optional<SandboxOptions> fail(const QString& message) {
+std::optional<SandboxOptions> fail(const QString& message)
+{
     QTextStream(stderr) << "velmora-sandbox: " << message << '\n';
     return std::nullopt;
 }
 
 } // namespace
 
-std::optional<SandboxOptions> SandboxOptions::parse(const QStringList& arguments) {
+std::optional<SandboxOptions> SandboxOptions::parse(const QStringList& arguments)
+{
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("A local stand-in for the Velmora web service, on loopback only."));

@@ -2,7 +2,8 @@
 
 namespace vl::Schema {
 
-QStringList statements() {
+QStringList statements()
+{
     return {
         QStringLiteral("CREATE TABLE IF NOT EXISTS meta(key TEXT PRIMARY KEY, value TEXT)"),
         // Companies: those with an address are employer accounts; the others only have

@@ -13,7 +13,8 @@ namespace vl {
 
 namespace {
 
-QByteArray methodName(QHttpServerRequest::Method method) {
+QByteArray methodName(QHttpServerRequest::Method method)
+{
     switch (method) {
     case QHttpServerRequest::Method::Get:
         return "GET";
@@ -38,7 +39,8 @@ QByteArray methodName(QHttpServerRequest::Method method) {
     }
 }
 
-bool isDevPath(const QString& path) {
+bool isDevPath(const QString& path)
+{
     return path.startsWith(QLatin1String("/dev/"));
 }
 
@@ -48,14 +50,18 @@ Server::Server(const Router& router, RequestLog& log, FaultTable& faults, QObjec
     : QAbstractHttpServer(parent)
     , m_router(router)
     , m_log(log)
-    , m_faults(faults) {}
+    , m_faults(faults)
+{
+}
 
-quint16 Server::start(quint16 port) {
+quint16 Server::start(quint16 port)
+{
     m_port = listen(QHostAddress::LocalHost, port);
     return m_port;
 }
 
-Request Server::copy(const QHttpServerRequest& request) const {
+Request Server::copy(const QHttpServerRequest& request) const
+{
     Request out;
     out.method = methodName(request.method());
     out.path = request.url().path(QUrl::FullyDecoded);
@@ -69,7 +75,8 @@ Request Server::copy(const QHttpServerRequest& request) const {
     return out;
 }
 
-bool Server::handleRequest(const QHttpServerRequest& request, QTcpSocket* socket) {
+bool Server::handleRequest(const QHttpServerRequest& request, QTcpSocket* socket)
+{
     const Request copied = copy(request);
     if (isDevPath(copied.path)) {
         write(socket, copied, m_router.dispatch(copied));
@@ -91,18 +98,21 @@ bool Server::handleRequest(const QHttpServerRequest& request, QTcpSocket* socket
     return true;
 }
 
-void Server::missingHandler(const QHttpServerRequest& request, QTcpSocket* socket) {
+void Server::missingHandler(const QHttpServerRequest& request, QTcpSocket* socket)
+{
     write(socket, copy(request),
           Reply::json({{QStringLiteral("ok"), false},
                        {QStringLiteral("error"), QStringLiteral("not_found")}},
                       404));
 }
 
-void Server::answer(QTcpSocket* socket, const Request& request) {
+void Server::answer(QTcpSocket* socket, const Request& request)
+{
     write(socket, request, m_router.dispatch(request));
 }
 
-void Server::write(QTcpSocket* socket, const Request& request, const Reply& reply) {
+void Server::write(QTcpSocket* socket, const Request& request, const Reply& reply)
+{
     if (reply.drop) {
         socket->abort();
         return;

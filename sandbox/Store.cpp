@@ -9,21 +9,24 @@ namespace vl {
 
 namespace {
 
-void report(const QSqlQuery& query) {
+void report(const QSqlQuery& query)
+{
     QTextStream err(stderr);
     err << "sql: " << query.lastError().text() << " in " << query.lastQuery() << '\n';
 }
 
 } // namespace
 
-Store::~Store() {
+Store::~Store()
+{
     if (m_connection.isEmpty())
         return;
     QSqlDatabase::database(m_connection).close();
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-bool Store::open(const QString& path) {
+bool Store::open(const QString& path)
+{
     m_connection = QStringLiteral("sandbox");
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
     db.setDatabaseName(path);
@@ -35,7 +38,8 @@ bool Store::open(const QString& path) {
     return createSchema();
 }
 
-bool Store::createSchema() {
+bool Store::createSchema()
+{
     for (const QString& statement : Schema::statements()) {
         QSqlQuery query(QSqlDatabase::database(m_connection));
         if (!query.exec(statement)) {
@@ -46,22 +50,26 @@ bool Store::createSchema() {
     return true;
 }
 
-bool Store::needsSeed() const {
+bool Store::needsSeed() const
+{
     return !scalar(QStringLiteral("SELECT value FROM meta WHERE key = 'seeded'")).isValid();
 }
 
-void Store::markSeeded() {
+void Store::markSeeded()
+{
     exec(QStringLiteral("INSERT OR REPLACE INTO meta(key, value) VALUES('seeded', '1')"));
 }
 
-QSqlQuery Store::prepare(const QString& sql) const {
+QSqlQuery Store::prepare(const QString& sql) const
+{
     QSqlQuery query(QSqlDatabase::database(m_connection));
     if (!query.prepare(sql))
         report(query);
     return query;
 }
 
-bool Store::run(QSqlQuery& query, const QVariantList& values) {
+bool Store::run(QSqlQuery& query, const QVariantList& values)
+{
     for (qsizetype i = 0; i < values.size(); ++i)
         query.bindValue(int(i), values[i]);
     if (query.exec())
@@ -70,22 +78,26 @@ bool Store::run(QSqlQuery& query, const QVariantList& values) {
     return false;
 }
 
-QSqlQuery Store::exec(const QString& sql, const QVariantList& values) const {
+QSqlQuery Store::exec(const QString& sql, const QVariantList& values) const
+{
     QSqlQuery query = prepare(sql);
     run(query, values);
     return query;
 }
 
-QVariant Store::scalar(const QString& sql, const QVariantList& values) const {
+QVariant Store::scalar(const QString& sql, const QVariantList& values) const
+{
     QSqlQuery query = exec(sql, values);
     return query.next() ? query.value(0) : QVariant();
 }
 
-bool Store::begin() {
+bool Store::begin()
+{
     return QSqlDatabase::database(m_connection).transaction();
 }
 
-bool Store::commit() {
+bool Store::commit()
+{
     return QSqlDatabase::database(m_connection).commit();
 }
 

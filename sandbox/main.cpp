@@ -3,7 +3,8 @@
 
 #include <QCoreApplication>
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("velmora-sandbox"));
     const auto options = vl::SandboxOptions::parse(QCoreApplication::arguments());

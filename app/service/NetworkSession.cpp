@@ -1,5 +1,7 @@
 #include "app/service/NetworkSession.h"
 
+#include "app/service/http/HttpSession.h"
+
 #include <QNetworkDiskCache>
 #include <QStandardPaths>
 
@@ -7,7 +9,7 @@ namespace vl {
 
 std::unique_ptr<QNetworkAccessManager> makeNetworkSession()
 {
-    auto session = std::make_unique<QNetworkAccessManager>();
+    std::unique_ptr<QNetworkAccessManager> session = std::make_unique<HttpSession>();
     auto* cache = new QNetworkDiskCache(session.get());
     cache->setCacheDirectory(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
                              QStringLiteral("/http"));

@@ -11,9 +11,12 @@ namespace vl {
 CodeBook::CodeBook(Store& store, const Clock& clock, QString purpose)
     : m_store(store)
     , m_clock(clock)
-    , m_purpose(std::move(purpose)) {}
+    , m_purpose(std::move(purpose))
+{
+}
 
-QString CodeBook::issue(const QString& email, const QString& locale) {
+QString CodeBook::issue(const QString& email, const QString& locale)
+{
     const QString code = Secrets::digits(6);
     m_store.exec(QStringLiteral("INSERT INTO codes(purpose, email, code, locale, expires_at) "
                                 "VALUES(?, ?, ?, ?, ?)"),
@@ -21,7 +24,8 @@ QString CodeBook::issue(const QString& email, const QString& locale) {
     return code;
 }
 
-std::optional<QString> CodeBook::redeem(const QString& email, const QString& code) {
+std::optional<QString> CodeBook::redeem(const QString& email, const QString& code)
+{
     QSqlQuery found = m_store.exec(
         QStringLiteral("SELECT locale FROM codes WHERE purpose = ? AND email = ? AND code = ? "
                        "AND used = 0 AND expires_at > ? ORDER BY id DESC LIMIT 1"),

@@ -7,14 +7,15 @@ namespace vl::CodeMail {
 
 namespace {
 
-Trilingual text(const char* ka, const char* en, const char* ru) {
+Trilingual text(const char* ka, const char* en, const char* ru)
+{
     return {QString::fromUtf8(ka), QString::fromUtf8(en), QString::fromUtf8(ru)};
 }
 
 } // namespace
 
-void sendEmployerCode(Outbox& outbox, const QString& to, const QString& code,
-                      const QString& locale) {
+void sendEmployerCode(Outbox& outbox, const QString& to, const QString& code, const QString& locale)
+{
     static const Trilingual subject =
         text("Velmora — დამსაქმებლის ანგარიშში შესვლის კოდი", "Your Velmora sign-in code",
              "Код для входа в кабинет работодателя Velmora");
@@ -30,7 +31,8 @@ void sendEmployerCode(Outbox& outbox, const QString& to, const QString& code,
 }
 
 void sendCandidateCode(Outbox& outbox, const QString& to, const QString& code,
-                       const QString& locale) {
+                       const QString& locale)
+{
     static const Trilingual subject = text("Velmora — კოდი სამუშაოს მაძიებლის ანგარიშისთვის",
                                            "Your Velmora code", "Ваш код Velmora для соискателя");
     static const Trilingual body =

@@ -11,7 +11,8 @@ namespace vl {
 
 namespace {
 
-QString priceText(const QString& locale) {
+QString priceText(const QString& locale)
+{
     static const Trilingual price{QStringLiteral("49 ₾ / თვე"),
                                   QStringLiteral("₾49 a month"),
                                   QStringLiteral("49 ₾ в месяц")};
@@ -22,9 +23,12 @@ QString priceText(const QString& locale) {
 
 EmployerAccounts::EmployerAccounts(Store& store, const Clock& clock)
     : m_store(store)
-    , m_clock(clock) {}
+    , m_clock(clock)
+{
+}
 
-std::optional<qint64> EmployerAccounts::byToken(const QString& token) const {
+std::optional<qint64> EmployerAccounts::byToken(const QString& token) const
+{
     if (token.isEmpty())
         return std::nullopt;
     const QVariant id = m_store.scalar(
@@ -32,18 +36,21 @@ std::optional<qint64> EmployerAccounts::byToken(const QString& token) const {
     return id.isValid() ? std::optional(id.toLongLong()) : std::nullopt;
 }
 
-std::optional<qint64> EmployerAccounts::byEmail(const QString& email) const {
+std::optional<qint64> EmployerAccounts::byEmail(const QString& email) const
+{
     const QVariant id =
         m_store.scalar(QStringLiteral("SELECT id FROM employers WHERE email = ?"), {email});
     return id.isValid() ? std::optional(id.toLongLong()) : std::nullopt;
 }
 
-QString EmployerAccounts::emailOf(qint64 id) const {
+QString EmployerAccounts::emailOf(qint64 id) const
+{
     return m_store.scalar(QStringLiteral("SELECT email FROM employers WHERE id = ?"), {id})
         .toString();
 }
 
-qint64 EmployerAccounts::create(const QString& email, const QString& locale) {
+qint64 EmployerAccounts::create(const QString& email, const QString& locale)
+{
     const QString name = email.section(u'@', 0, 0);
     QSqlQuery insert = m_store.exec(
         QStringLiteral("INSERT INTO employers(email, name, locale, next_key, next_urgent, "
@@ -52,19 +59,22 @@ qint64 EmployerAccounts::create(const QString& email, const QString& locale) {
     return insert.lastInsertId().toLongLong();
 }
 
-void EmployerAccounts::setLocale(qint64 id, const QString& locale) {
+void EmployerAccounts::setLocale(qint64 id, const QString& locale)
+{
     m_store.exec(QStringLiteral("UPDATE employers SET locale = ? WHERE id = ?"),
                  {normalizeLocale(locale), id});
 }
 
 void EmployerAccounts::update(qint64 id, const QString& name, const QString& website,
-                              const QString& phone) {
+                              const QString& phone)
+{
     m_store.exec(QStringLiteral("UPDATE employers SET name = ?, name_ka = NULL, name_en = NULL, "
                                 "name_ru = NULL, website = ?, phone = ? WHERE id = ?"),
                  {name, website, phone, id});
 }
 
-void EmployerAccounts::remove(qint64 id) {
+void EmployerAccounts::remove(qint64 id)
+{
     m_store.exec(QStringLiteral("UPDATE listings SET status = 'closed' WHERE employer_id = ?"),
                  {id});
     m_store.exec(QStringLiteral("DELETE FROM employer_tokens WHERE employer_id = ?"), {id});
@@ -73,7 +83,8 @@ void EmployerAccounts::remove(qint64 id) {
                  {id});
 }
 
-QString EmployerAccounts::issueToken(qint64 id) {
+QString EmployerAccounts::issueToken(qint64 id)
+{
     const QString token = Secrets::token();
     m_store.exec(QStringLiteral(
                      "INSERT INTO employer_tokens(token, employer_id, created_at) VALUES(?, ?, ?)"),
@@ -81,11 +92,13 @@ QString EmployerAccounts::issueToken(qint64 id) {
     return token;
 }
 
-void EmployerAccounts::revoke(const QString& token) {
+void EmployerAccounts::revoke(const QString& token)
+{
     m_store.exec(QStringLiteral("DELETE FROM employer_tokens WHERE token = ?"), {token});
 }
 
-QJsonObject EmployerAccounts::profile(qint64 id) const {
+QJsonObject EmployerAccounts::profile(qint64 id) const
+{
     QSqlQuery row = m_store.exec(
         QStringLiteral("SELECT name, email, locale, website, phone, logo_url FROM employers "
                        "WHERE id = ?"),
@@ -102,7 +115,8 @@ QJsonObject EmployerAccounts::profile(qint64 id) const {
     return out;
 }
 
-QJsonObject EmployerAccounts::me(qint64 id, const QString& origin) const {
+QJsonObject EmployerAccounts::me(qint64 id, const QString& origin) const
+{
     QSqlQuery row = m_store.exec(
         QStringLiteral(
             "SELECT e.unread, e.applications, e.new_applications, e.has_mfa, e.pro_paid, "

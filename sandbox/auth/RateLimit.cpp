@@ -10,9 +10,12 @@ RateLimit::RateLimit(Store& store, const Clock& clock, QString scope, int limit,
     , m_clock(clock)
     , m_scope(std::move(scope))
     , m_limit(limit)
-    , m_window(window) {}
+    , m_window(window)
+{
+}
 
-bool RateLimit::open(const QString& subject) const {
+bool RateLimit::open(const QString& subject) const
+{
     const qint64 since = m_clock.now() - m_window;
     const int count = m_store
                           .scalar(QStringLiteral("SELECT COUNT(*) FROM attempts "
@@ -22,19 +25,22 @@ bool RateLimit::open(const QString& subject) const {
     return count < m_limit;
 }
 
-bool RateLimit::allow(const QString& subject) {
+bool RateLimit::allow(const QString& subject)
+{
     if (!open(subject))
         return false;
     note(subject);
     return true;
 }
 
-void RateLimit::note(const QString& subject) {
+void RateLimit::note(const QString& subject)
+{
     m_store.exec(QStringLiteral("INSERT INTO attempts(scope, subject, at) VALUES(?, ?, ?)"),
                  {m_scope, subject, m_clock.now()});
 }
 
-void RateLimit::reset(const QString& subject) {
+void RateLimit::reset(const QString& subject)
+{
     m_store.exec(QStringLiteral("DELETE FROM attempts WHERE scope = ? AND subject = ?"),
                  {m_scope, subject});
 }

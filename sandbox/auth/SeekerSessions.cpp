@@ -9,9 +9,12 @@ namespace vl {
 
 SeekerSessions::SeekerSessions(Store& store, const Clock& clock)
     : m_store(store)
-    , m_clock(clock) {}
+    , m_clock(clock)
+{
+}
 
-QString SeekerSessions::open(qint64 seeker) {
+QString SeekerSessions::open(qint64 seeker)
+{
     const QString token = Secrets::token();
     m_store.exec(
         QStringLiteral("INSERT INTO seeker_sessions(token, seeker_id, created_at) VALUES(?, ?, ?)"),
@@ -19,7 +22,8 @@ QString SeekerSessions::open(qint64 seeker) {
     return token;
 }
 
-std::optional<qint64> SeekerSessions::seekerOf(const Request& request) const {
+std::optional<qint64> SeekerSessions::seekerOf(const Request& request) const
+{
     const QString token = request.cookie(cookieName);
     if (token.isEmpty())
         return std::nullopt;
@@ -29,17 +33,20 @@ std::optional<qint64> SeekerSessions::seekerOf(const Request& request) const {
     return id.isValid() ? std::optional(id.toLongLong()) : std::nullopt;
 }
 
-void SeekerSessions::close(const Request& request) {
+void SeekerSessions::close(const Request& request)
+{
     m_store.exec(QStringLiteral("DELETE FROM seeker_sessions WHERE token = ?"),
                  {request.cookie(cookieName)});
 }
 
-QByteArray SeekerSessions::setCookie(const QString& token) {
+QByteArray SeekerSessions::setCookie(const QString& token)
+{
     return cookieName.toByteArray() + '=' + token.toLatin1() +
            "; Path=/; HttpOnly; SameSite=Lax; Max-Age=" + QByteArray::number(lifetime);
 }
 
-QByteArray SeekerSessions::clearCookie() {
+QByteArray SeekerSessions::clearCookie()
+{
     return cookieName.toByteArray() + "=; Path=/; HttpOnly; SameSite=Lax; Max-Age=0";
 }
 

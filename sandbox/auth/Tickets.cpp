@@ -10,9 +10,12 @@ namespace vl {
 
 Tickets::Tickets(Store& store, const Clock& clock)
     : m_store(store)
-    , m_clock(clock) {}
+    , m_clock(clock)
+{
+}
 
-QString Tickets::issue(qint64 seeker) {
+QString Tickets::issue(qint64 seeker)
+{
     const QString ticket = Secrets::token(24);
     m_store.exec(
         QStringLiteral("INSERT INTO tickets(ticket, seeker_id, expires_at) VALUES(?, ?, ?)"),
@@ -20,7 +23,8 @@ QString Tickets::issue(qint64 seeker) {
     return ticket;
 }
 
-std::optional<Tickets::Ticket> Tickets::find(const QString& ticket) const {
+std::optional<Tickets::Ticket> Tickets::find(const QString& ticket) const
+{
     if (ticket.isEmpty())
         return std::nullopt;
     QSqlQuery row =
@@ -32,17 +36,20 @@ std::optional<Tickets::Ticket> Tickets::find(const QString& ticket) const {
     return Ticket{row.value(0).toLongLong(), row.value(1).toString(), row.value(2).toInt()};
 }
 
-void Tickets::setPendingSecret(const QString& ticket, const QString& secret) {
+void Tickets::setPendingSecret(const QString& ticket, const QString& secret)
+{
     m_store.exec(QStringLiteral("UPDATE tickets SET pending_secret = ? WHERE ticket = ?"),
                  {secret, ticket});
 }
 
-void Tickets::noteFailure(const QString& ticket) {
+void Tickets::noteFailure(const QString& ticket)
+{
     m_store.exec(QStringLiteral("UPDATE tickets SET failures = failures + 1 WHERE ticket = ?"),
                  {ticket});
 }
 
-void Tickets::consume(const QString& ticket) {
+void Tickets::consume(const QString& ticket)
+{
     m_store.exec(QStringLiteral("DELETE FROM tickets WHERE ticket = ?"), {ticket});
 }
 

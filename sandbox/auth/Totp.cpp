@@ -13,7 +13,8 @@ constexpr char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567";
 
 } // namespace
 
-QString base32Encode(const QByteArray& bytes) {
+QString base32Encode(const QByteArray& bytes)
+{
     QString out;
     quint32 buffer = 0;
     int bits = 0;
@@ -30,7 +31,8 @@ QString base32Encode(const QByteArray& bytes) {
     return out;
 }
 
-QByteArray base32Decode(const QString& text) {
+QByteArray base32Decode(const QString& text)
+{
     QByteArray out;
     quint32 buffer = 0;
     int bits = 0;
@@ -51,7 +53,8 @@ QByteArray base32Decode(const QString& text) {
     return out;
 }
 
-QString hotp(const QByteArray& key, quint64 counter) {
+QString hotp(const QByteArray& key, quint64 counter)
+{
     QByteArray message(8, 0);
     for (int i = 7; i >= 0; --i) {
         message[i] = char(counter & 0xff);
@@ -65,11 +68,13 @@ QString hotp(const QByteArray& key, quint64 counter) {
     return QStringLiteral("%1").arg(binary % 1000000, 6, 10, QLatin1Char('0'));
 }
 
-QString at(const QString& secret, qint64 unixTime) {
+QString at(const QString& secret, qint64 unixTime)
+{
     return hotp(base32Decode(secret), quint64(unixTime / step));
 }
 
-bool verify(const QString& secret, const QString& code, qint64 unixTime) {
+bool verify(const QString& secret, const QString& code, qint64 unixTime)
+{
     const QByteArray key = base32Decode(secret);
     const QString typed = code.trimmed();
     if (key.isEmpty() || typed.size() != 6)
@@ -82,7 +87,8 @@ bool verify(const QString& secret, const QString& code, qint64 unixTime) {
     return false;
 }
 
-QString newSecret() {
+QString newSecret()
+{
     QByteArray key(20, Qt::Uninitialized);
     for (char& byte : key)
         byte = char(QRandomGenerator::system()->bounded(256));

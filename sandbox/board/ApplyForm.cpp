@@ -27,11 +27,13 @@ struct Form {
     QList<Field> fields;
 };
 
-Trilingual t(const char* ka, const char* en, const char* ru) {
+Trilingual t(const char* ka, const char* en, const char* ru)
+{
     return {QString::fromUtf8(ka), QString::fromUtf8(en), QString::fromUtf8(ru)};
 }
 
-const QList<Form>& forms() {
+const QList<Form>& forms()
+{
     static const QList<Form> list{
         {"hotel",
          "optional",
@@ -104,7 +106,8 @@ const QList<Form>& forms() {
     return list;
 }
 
-const Form* find(const QString& key) {
+const Form* find(const QString& key)
+{
     for (const Form& form : forms()) {
         if (key == QLatin1String(form.key))
             return &form;
@@ -114,11 +117,13 @@ const Form* find(const QString& key) {
 
 } // namespace
 
-bool exists(const QString& key) {
+bool exists(const QString& key)
+{
     return find(key) != nullptr;
 }
 
-QJsonObject spec(const QString& key, const QString& lang) {
+QJsonObject spec(const QString& key, const QString& lang)
+{
     const Form* form = find(key);
     if (!form)
         return {};

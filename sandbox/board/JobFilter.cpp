@@ -5,15 +5,18 @@
 
 namespace vl {
 
-QString boardDateSql() {
+QString boardDateSql()
+{
     return QStringLiteral("COALESCE(l.bumped_at, l.published_at)");
 }
 
-QString pinnedSql() {
+QString pinnedSql()
+{
     return QStringLiteral("(l.aggregated = 0 AND l.published_at >= ?)");
 }
 
-JobFilter JobFilter::from(const Request& request) {
+JobFilter JobFilter::from(const Request& request)
+{
     JobFilter f;
     f.kind = request.queryValue(QStringLiteral("kind")) == QLatin1String("gig")
                  ? QStringLiteral("gig")
@@ -35,7 +38,8 @@ JobFilter JobFilter::from(const Request& request) {
     return f;
 }
 
-QString JobFilter::where(const Clock& clock, QVariantList& values) const {
+QString JobFilter::where(const Clock& clock, QVariantList& values) const
+{
     QStringList terms{QStringLiteral("l.status = 'live'"), QStringLiteral("l.kind = ?")};
     values.append(kind);
     if (!search.isEmpty()) {
@@ -71,7 +75,8 @@ QString JobFilter::where(const Clock& clock, QVariantList& values) const {
     return terms.join(QStringLiteral(" AND "));
 }
 
-QString JobFilter::orderBy(const Clock& clock, QVariantList& values) const {
+QString JobFilter::orderBy(const Clock& clock, QVariantList& values) const
+{
     if (payOrder)
         return QStringLiteral("l.pay_rank IS NULL, l.pay_rank DESC, ") + boardDateSql() +
                QStringLiteral(" DESC, l.ref DESC");

@@ -13,7 +13,8 @@ namespace vl {
 namespace {
 
 // Columns 0..19 of every listing read; detail reads add theirs after these.
-QString summaryColumns(const QString& lang) {
+QString summaryColumns(const QString& lang)
+{
     return QStringLiteral(
                "l.ref, l.kind, COALESCE(e.name_%1, e.name), e.logo_url, l.category, l.city, "
                "l.employment_type, l.salary_min, l.salary_max, l.pay_type, l.featured, "
@@ -22,13 +23,15 @@ QString summaryColumns(const QString& lang) {
            pinnedSql() + QStringLiteral(", l.gig_date, l.gig_hours, COALESCE(t.title, o.title)");
 }
 
-QString joins() {
+QString joins()
+{
     return QStringLiteral(" FROM listings l JOIN employers e ON e.id = l.employer_id "
                           "JOIN listing_texts o ON o.ref = l.ref AND o.lang = l.lang "
                           "LEFT JOIN listing_texts t ON t.ref = l.ref AND t.lang = ?");
 }
 
-void putOptional(QJsonObject& out, const QString& key, const QVariant& value, bool isInt = false) {
+void putOptional(QJsonObject& out, const QString& key, const QVariant& value, bool isInt = false)
+{
     if (value.isNull())
         return;
     if (isInt)
@@ -37,7 +40,8 @@ void putOptional(QJsonObject& out, const QString& key, const QVariant& value, bo
         out.insert(key, value.toString());
 }
 
-QJsonObject summary(const QSqlQuery& row) {
+QJsonObject summary(const QSqlQuery& row)
+{
     QJsonObject out{{QStringLiteral("ref"), row.value(0).toString()},
                     {QStringLiteral("kind"), row.value(1).toString()},
                     {QStringLiteral("title"), row.value(19).toString()},
@@ -66,10 +70,13 @@ QJsonObject summary(const QSqlQuery& row) {
 
 ListingReader::ListingReader(Store& store, const Clock& clock)
     : m_store(store)
-    , m_clock(clock) {}
+    , m_clock(clock)
+{
+}
 
 QJsonArray ListingReader::page(const JobFilter& filter, const QString& lang, int page,
-                               int& total) const {
+                               int& total) const
+{
     QVariantList countValues;
     const QString where = filter.where(m_clock, countValues);
     total =
@@ -90,7 +97,8 @@ QJsonArray ListingReader::page(const JobFilter& filter, const QString& lang, int
     return out;
 }
 
-QJsonArray ListingReader::freshest(const QString& kind, const QString& lang, int count) const {
+QJsonArray ListingReader::freshest(const QString& kind, const QString& lang, int count) const
+{
     QSqlQuery rows =
         m_store.exec(QStringLiteral("SELECT ") + summaryColumns(lang) + joins() +
                          QStringLiteral(" WHERE l.status = 'live' AND l.kind = ? ORDER BY ") +
@@ -102,7 +110,8 @@ QJsonArray ListingReader::freshest(const QString& kind, const QString& lang, int
     return out;
 }
 
-int ListingReader::postedToday(const QString& kind) const {
+int ListingReader::postedToday(const QString& kind) const
+{
     return m_store
         .scalar(QStringLiteral("SELECT COUNT(*) FROM listings WHERE status = 'live' AND kind = ? "
                                "AND published_at >= ?"),
@@ -110,7 +119,8 @@ int ListingReader::postedToday(const QString& kind) const {
         .toInt();
 }
 
-QJsonArray ListingReader::counts(const QString& kind, const QString& column) const {
+QJsonArray ListingReader::counts(const QString& kind, const QString& column) const
+{
     QSqlQuery rows = m_store.exec(
         QStringLiteral("SELECT %1, COUNT(*) FROM listings WHERE status = 'live' AND kind = ? "
                        "GROUP BY %1 ORDER BY COUNT(*) DESC, %1")
@@ -124,7 +134,8 @@ QJsonArray ListingReader::counts(const QString& kind, const QString& column) con
 }
 
 std::optional<QJsonObject> ListingReader::detail(const QString& ref, const QString& lang,
-                                                 bool forms, const QString& origin) const {
+                                                 bool forms, const QString& origin) const
+{
     m_store.exec(QStringLiteral("UPDATE listings SET views = views + 1 WHERE ref = ? AND "
                                 "status IN ('live', 'closed')"),
                  {ref});

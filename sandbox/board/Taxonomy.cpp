@@ -6,14 +6,16 @@ namespace vl::Taxonomy {
 
 namespace {
 
-Term term(const char* key, const char* ka, const char* en, const char* ru) {
+Term term(const char* key, const char* ka, const char* en, const char* ru)
+{
     return {QString::fromUtf8(key),
             {QString::fromUtf8(ka), QString::fromUtf8(en), QString::fromUtf8(ru)},
             {}};
 }
 
 Term city(const char* key, const char* ka, const char* en, const char* ru, const char* inKa,
-          const char* inRu) {
+          const char* inRu)
+{
     Term out = term(key, ka, en, ru);
     out.where = {QString::fromUtf8(inKa), QStringLiteral("in ") + QString::fromUtf8(en),
                  QString::fromUtf8(inRu)};
@@ -22,7 +24,8 @@ Term city(const char* key, const char* ka, const char* en, const char* ru, const
 
 } // namespace
 
-const QList<Term>& categories() {
+const QList<Term>& categories()
+{
     static const QList<Term> list{
         term("hospitality", "სასტუმროები და რესტორნები", "Hospitality", "Гостиницы и рестораны"),
         term("retail", "საცალო ვაჭრობა", "Retail", "Розничная торговля"),
@@ -45,7 +48,8 @@ const QList<Term>& categories() {
     return list;
 }
 
-const QList<Term>& cities() {
+const QList<Term>& cities()
+{
     static const QList<Term> list{
         city("tbilisi", "თბილისი", "Tbilisi", "Тбилиси", "თბილისში", "в Тбилиси"),
         city("batumi", "ბათუმი", "Batumi", "Батуми", "ბათუმში", "в Батуми"),
@@ -64,7 +68,8 @@ const QList<Term>& cities() {
     return list;
 }
 
-const QList<Term>& employmentTypes() {
+const QList<Term>& employmentTypes()
+{
     static const QList<Term> list{
         term("full_time", "სრული განაკვეთი", "Full-time", "Полная занятость"),
         term("part_time", "ნახევარი განაკვეთი", "Part-time", "Частичная занятость"),
@@ -75,7 +80,8 @@ const QList<Term>& employmentTypes() {
     return list;
 }
 
-const Term* find(const QList<Term>& terms, const QString& key) {
+const Term* find(const QList<Term>& terms, const QString& key)
+{
     for (const Term& t : terms) {
         if (t.key == key)
             return &t;
@@ -83,7 +89,8 @@ const Term* find(const QList<Term>& terms, const QString& key) {
     return nullptr;
 }
 
-QJsonArray toJson(const QList<Term>& terms) {
+QJsonArray toJson(const QList<Term>& terms)
+{
     QJsonArray out;
     for (const Term& t : terms) {
         out.append(QJsonObject{

@@ -12,7 +12,8 @@ const QByteArray errorPage = "<!DOCTYPE html>\n<html><head><title>502 Bad Gatewa
 
 } // namespace
 
-Reply Fault::reply() const {
+Reply Fault::reply() const
+{
     switch (mode) {
     case Mode::Drop:
         return Reply::dropped();
@@ -33,23 +34,28 @@ Reply Fault::reply() const {
     return Reply::html(errorPage, 500);
 }
 
-QString FaultTable::key(const QByteArray& method, const QString& path) {
+QString FaultTable::key(const QByteArray& method, const QString& path)
+{
     return QString::fromLatin1(method.toUpper()) + u' ' + path;
 }
 
-void FaultTable::set(const QByteArray& method, const QString& path, const Fault& fault) {
+void FaultTable::set(const QByteArray& method, const QString& path, const Fault& fault)
+{
     m_faults.insert(key(method, path), fault);
 }
 
-void FaultTable::clear(const QByteArray& method, const QString& path) {
+void FaultTable::clear(const QByteArray& method, const QString& path)
+{
     m_faults.remove(key(method, path));
 }
 
-void FaultTable::clearAll() {
+void FaultTable::clearAll()
+{
     m_faults.clear();
 }
 
-std::optional<Fault> FaultTable::find(const QByteArray& method, const QString& path) const {
+std::optional<Fault> FaultTable::find(const QByteArray& method, const QString& path) const
+{
     const auto it = m_faults.constFind(key(method, path));
     if (it == m_faults.cend())
         return std::nullopt;

@@ -2,7 +2,8 @@
 
 namespace vl {
 
-void RequestLog::record(const Request& request) {
+void RequestLog::record(const Request& request)
+{
     QJsonArray headers;
     for (const auto& [name, value] : request.headers)
         headers.append(QJsonArray{QString::fromLatin1(name), QString::fromUtf8(value)});
@@ -16,7 +17,8 @@ void RequestLog::record(const Request& request) {
         m_entries.resize(capacity);
 }
 
-QJsonArray RequestLog::toJson() const {
+QJsonArray RequestLog::toJson() const
+{
     QJsonArray out;
     for (const QJsonObject& entry : m_entries)
         out.append(entry);

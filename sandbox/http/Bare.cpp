@@ -2,23 +2,28 @@
 
 namespace vl::Bare {
 
-Reply ok(const QJsonObject& record) {
+Reply ok(const QJsonObject& record)
+{
     return Reply::json(record);
 }
 
-Reply error(int status, const QString& text) {
+Reply error(int status, const QString& text)
+{
     return Reply::json({{QStringLiteral("error"), text}}, status);
 }
 
-Reply badTicket() {
+Reply badTicket()
+{
     return error(401, QStringLiteral("auth"));
 }
 
-Reply codeMismatch() {
+Reply codeMismatch()
+{
     return error(400, QStringLiteral("code mismatch"));
 }
 
-Reply rateLimited() {
+Reply rateLimited()
+{
     return error(429, QStringLiteral("rate"));
 }
 

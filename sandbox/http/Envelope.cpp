@@ -2,33 +2,40 @@
 
 namespace vl::Envelope {
 
-Reply ok(const QJsonValue& data) {
+Reply ok(const QJsonValue& data)
+{
     return Reply::json({{QStringLiteral("ok"), true}, {QStringLiteral("data"), data}});
 }
 
-Reply list(const QJsonArray& items, const QJsonObject& meta) {
+Reply list(const QJsonArray& items, const QJsonObject& meta)
+{
     return Reply::json({{QStringLiteral("ok"), true},
                         {QStringLiteral("data"), items},
                         {QStringLiteral("meta"), meta}});
 }
 
-Reply fail(int status, const QString& code) {
+Reply fail(int status, const QString& code)
+{
     return Reply::json({{QStringLiteral("ok"), false}, {QStringLiteral("error"), code}}, status);
 }
 
-Reply badInput(const QString& code) {
+Reply badInput(const QString& code)
+{
     return fail(400, code);
 }
 
-Reply unauthorized() {
+Reply unauthorized()
+{
     return fail(401, QStringLiteral("auth"));
 }
 
-Reply rateLimited() {
+Reply rateLimited()
+{
     return fail(429, QStringLiteral("rate"));
 }
 
-Reply notFound() {
+Reply notFound()
+{
     return fail(404, QStringLiteral("not_found"));
 }
 

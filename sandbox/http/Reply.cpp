@@ -6,7 +6,8 @@ namespace vl {
 
 namespace {
 
-QByteArray reason(int status) {
+QByteArray reason(int status)
+{
     switch (status) {
     case 200:
         return "OK";
@@ -47,7 +48,8 @@ QByteArray reason(int status) {
 
 } // namespace
 
-Reply Reply::json(const QJsonObject& object, int status) {
+Reply Reply::json(const QJsonObject& object, int status)
+{
     Reply reply;
     reply.status = status;
     reply.body = QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -55,7 +57,8 @@ Reply Reply::json(const QJsonObject& object, int status) {
     return reply;
 }
 
-Reply Reply::html(const QByteArray& page, int status) {
+Reply Reply::html(const QByteArray& page, int status)
+{
     Reply reply;
     reply.status = status;
     reply.body = page;
@@ -63,25 +66,29 @@ Reply Reply::html(const QByteArray& page, int status) {
     return reply;
 }
 
-Reply Reply::redirect(const QByteArray& location) {
+Reply Reply::redirect(const QByteArray& location)
+{
     Reply reply;
     reply.status = 302;
     reply.withHeader("Location", location);
     return reply;
 }
 
-Reply Reply::dropped() {
+Reply Reply::dropped()
+{
     Reply reply;
     reply.drop = true;
     return reply;
 }
 
-Reply& Reply::withHeader(const QByteArray& name, const QByteArray& value) {
+Reply& Reply::withHeader(const QByteArray& name, const QByteArray& value)
+{
     headers.append(qMakePair(name, value));
     return *this;
 }
 
-QByteArray Reply::serialize(bool keepAlive) const {
+QByteArray Reply::serialize(bool keepAlive) const
+{
     QByteArray out = "HTTP/1.1 " + QByteArray::number(status) + ' ' + reason(status) + "\r\n";
     for (const auto& [name, value] : headers)
         out += name + ": " + value + "\r\n";

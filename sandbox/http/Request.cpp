@@ -4,7 +4,8 @@
 
 namespace vl {
 
-QByteArray Request::header(QByteArrayView name) const {
+QByteArray Request::header(QByteArrayView name) const
+{
     for (const auto& [key, value] : headers) {
         if (QByteArrayView(key).compare(name, Qt::CaseInsensitive) == 0)
             return value;
@@ -12,19 +13,23 @@ QByteArray Request::header(QByteArrayView name) const {
     return {};
 }
 
-QString Request::queryValue(const QString& key) const {
+QString Request::queryValue(const QString& key) const
+{
     return query.queryItemValue(key, QUrl::FullyDecoded);
 }
 
-bool Request::hasQuery(const QString& key) const {
+bool Request::hasQuery(const QString& key) const
+{
     return query.hasQueryItem(key);
 }
 
-QJsonObject Request::json() const {
+QJsonObject Request::json() const
+{
     return QJsonDocument::fromJson(body).object();
 }
 
-QString Request::bearer() const {
+QString Request::bearer() const
+{
     const QByteArray value = header("authorization").trimmed();
     static constexpr QByteArrayView scheme = "bearer ";
     if (value.size() <= scheme.size() ||
@@ -33,7 +38,8 @@ QString Request::bearer() const {
     return QString::fromUtf8(value.mid(scheme.size()).trimmed());
 }
 
-QString Request::cookie(QByteArrayView name) const {
+QString Request::cookie(QByteArrayView name) const
+{
     for (const auto& [key, value] : headers) {
         if (QByteArrayView(key).compare("cookie", Qt::CaseInsensitive) != 0)
             continue;

@@ -16,7 +16,8 @@ namespace {
 
 constexpr qint64 tenMinutes = 600;
 
-QString field(const QJsonObject& body, const char* key) {
+QString field(const QJsonObject& body, const char* key)
+{
     return body.value(QLatin1String(key)).toString().trimmed();
 }
 
@@ -28,9 +29,12 @@ public:
         , m_codes(context.store, context.clock, QStringLiteral("employer"))
         , m_requests(context.store, context.clock, QStringLiteral("employer-code"), 5, tenMinutes)
         , m_failures(context.store, context.clock, QStringLiteral("employer-verify"), 10,
-                     tenMinutes) {}
+                     tenMinutes)
+    {
+    }
 
-    Reply request(const Request& request) {
+    Reply request(const Request& request)
+    {
         const QJsonObject body = request.json();
         const QString email = field(body, "email");
         if (!Secrets::isEmail(email))
@@ -42,7 +46,8 @@ public:
         return Envelope::ok(QJsonObject{});
     }
 
-    Reply verify(const Request& request) {
+    Reply verify(const Request& request)
+    {
         const QJsonObject body = request.json();
         const QString email = field(body, "email");
         const QString code = field(body, "code");
@@ -67,19 +72,22 @@ public:
                                         {QStringLiteral("seeker"), seeker}});
     }
 
-    Reply logout(const Request& request) {
+    Reply logout(const Request& request)
+    {
         m_accounts.revoke(request.bearer());
         return Envelope::ok(QJsonObject{});
     }
 
-    Reply me(const Request& request) {
+    Reply me(const Request& request)
+    {
         const auto id = m_accounts.byToken(request.bearer());
         if (!id)
             return Envelope::unauthorized();
         return Envelope::ok(m_accounts.me(*id, request.origin));
     }
 
-    Reply saveProfile(const Request& request) {
+    Reply saveProfile(const Request& request)
+    {
         const auto id = m_accounts.byToken(request.bearer());
         if (!id)
             return Envelope::unauthorized();
@@ -91,7 +99,8 @@ public:
         return Envelope::ok(QJsonObject{{QStringLiteral("employer"), m_accounts.profile(*id)}});
     }
 
-    Reply deleteAccount(const Request& request) {
+    Reply deleteAccount(const Request& request)
+    {
         const auto id = m_accounts.byToken(request.bearer());
         if (!id)
             return Envelope::unauthorized();
@@ -109,7 +118,8 @@ private:
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     auto handlers = std::make_shared<Handlers>(context);
     const QString base = QStringLiteral("/api/app/v1/");
     router.add("POST", base + QStringLiteral("auth/request"),

@@ -15,11 +15,13 @@ namespace {
 
 constexpr int freshCount = 8;
 
-QString localeOf(const Request& request) {
+QString localeOf(const Request& request)
+{
     return normalizeLocale(request.queryValue(QStringLiteral("locale")));
 }
 
-Reply jobs(const ListingReader& reader, const Request& request) {
+Reply jobs(const ListingReader& reader, const Request& request)
+{
     const JobFilter filter = JobFilter::from(request);
     const int page = std::max(1, request.queryValue(QStringLiteral("page")).toInt());
     int total = 0;
@@ -32,7 +34,8 @@ Reply jobs(const ListingReader& reader, const Request& request) {
                            {QStringLiteral("postedToday"), reader.postedToday(filter.kind)}});
 }
 
-Reply board(const ListingReader& reader, const Request& request) {
+Reply board(const ListingReader& reader, const Request& request)
+{
     const QString kind = request.queryValue(QStringLiteral("kind")) == QLatin1String("gig")
                              ? QStringLiteral("gig")
                              : QStringLiteral("vacancy");
@@ -43,7 +46,8 @@ Reply board(const ListingReader& reader, const Request& request) {
         {QStringLiteral("fresh"), reader.freshest(kind, localeOf(request), freshCount)}});
 }
 
-Reply job(const ListingReader& reader, const Request& request) {
+Reply job(const ListingReader& reader, const Request& request)
+{
     const auto detail = reader.detail(
         request.params.value(QStringLiteral("ref")).toUpper(), localeOf(request),
         request.queryValue(QStringLiteral("forms")) == QLatin1String("1"), request.origin);
@@ -52,7 +56,8 @@ Reply job(const ListingReader& reader, const Request& request) {
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     auto reader = std::make_shared<ListingReader>(context.store, context.clock);
     const QString base = QStringLiteral("/api/app/v1/");
     router.add("GET", base + QStringLiteral("jobs"),

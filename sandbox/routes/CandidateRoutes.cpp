@@ -21,7 +21,8 @@ namespace {
 
 constexpr qint64 tenMinutes = 600;
 
-QString field(const QJsonObject& body, const char* key) {
+QString field(const QJsonObject& body, const char* key)
+{
     return body.value(QLatin1String(key)).toString().trimmed();
 }
 
@@ -36,9 +37,12 @@ public:
         , m_codes(context.store, context.clock, QStringLiteral("candidate"))
         , m_requests(context.store, context.clock, QStringLiteral("candidate-code"), 5, tenMinutes)
         , m_failures(context.store, context.clock, QStringLiteral("candidate-verify"), 10,
-                     tenMinutes) {}
+                     tenMinutes)
+    {
+    }
 
-    Reply code(const Request& request) {
+    Reply code(const Request& request)
+    {
         const QJsonObject body = request.json();
         const QString email = field(body, "email");
         if (!Secrets::isEmail(email))
@@ -50,7 +54,8 @@ public:
         return Envelope::ok(QJsonObject{{QStringLiteral("sent"), true}});
     }
 
-    Reply verify(const Request& request) {
+    Reply verify(const Request& request)
+    {
         const QJsonObject body = request.json();
         const QString email = field(body, "email");
         const QString code = field(body, "code");
@@ -69,7 +74,8 @@ public:
 
     // An employer's session vouches for the address, so the seeker side opens without a
     // second factor of its own.
-    Reply adopt(const Request& request) {
+    Reply adopt(const Request& request)
+    {
         const auto employer = m_employers.byToken(request.bearer());
         if (!employer)
             return Envelope::unauthorized();
@@ -79,7 +85,8 @@ public:
             .withHeader("Set-Cookie", SeekerSessions::setCookie(m_sessions.open(seeker)));
     }
 
-    Reply activity(const Request& request) {
+    Reply activity(const Request& request)
+    {
         if (!m_sessions.seekerOf(request))
             return Envelope::unauthorized();
         return Envelope::ok(QJsonObject{{QStringLiteral("applications"), QJsonArray()},
@@ -100,7 +107,8 @@ private:
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     auto handlers = std::make_shared<Handlers>(context);
     const QString base = QStringLiteral("/api/app/v1/");
     router.add("POST", base + QStringLiteral("candidate/code"),

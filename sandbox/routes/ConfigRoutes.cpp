@@ -13,7 +13,8 @@ namespace {
 // Bumped whenever the taxonomy or the flags change, so that clients can tell.
 constexpr int revision = 7;
 
-QJsonObject config(const SandboxOptions& options) {
+QJsonObject config(const SandboxOptions& options)
+{
     QJsonObject data{
         {QStringLiteral("rev"), revision},
         {QStringLiteral("features"), QJsonObject{{QStringLiteral("fit"), true},
@@ -42,7 +43,8 @@ QJsonObject config(const SandboxOptions& options) {
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     router.add("GET", QStringLiteral("/api/app/v1/config"), [&context](const Request&) {
         return Envelope::ok(config(context.options)).withHeader("Cache-Control", "max-age=300");
     });

@@ -12,7 +12,8 @@ namespace vl::DevRoutes {
 
 namespace {
 
-Reply setFault(FaultTable& faults, const Request& request) {
+Reply setFault(FaultTable& faults, const Request& request)
+{
     const QJsonObject body = request.json();
     const QByteArray method =
         body.value(QStringLiteral("method")).toString(QStringLiteral("GET")).toUpper().toLatin1();
@@ -48,7 +49,8 @@ Reply setFault(FaultTable& faults, const Request& request) {
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     router.add("GET", QStringLiteral("/dev/outbox"),
                [&context](const Request&) { return Envelope::ok(context.outbox.toJson()); });
     router.add("GET", QStringLiteral("/dev/requests"),

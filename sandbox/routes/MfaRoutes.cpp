@@ -21,11 +21,13 @@ namespace {
 // Where the client lands after signing in; it reads the value and does nothing with it.
 const QString afterSignIn = QStringLiteral("/account");
 
-QString field(const QJsonObject& body, const char* key) {
+QString field(const QJsonObject& body, const char* key)
+{
     return body.value(QLatin1String(key)).toString();
 }
 
-QString challenge() {
+QString challenge()
+{
     QByteArray bytes(32, Qt::Uninitialized);
     for (char& byte : bytes)
         byte = char(QRandomGenerator::system()->bounded(256));
@@ -39,9 +41,12 @@ public:
         : m_clock(context.clock)
         , m_seekers(context.store, context.clock)
         , m_tickets(context.store, context.clock)
-        , m_sessions(context.store, context.clock) {}
+        , m_sessions(context.store, context.clock)
+    {
+    }
 
-    Reply state(const Request& request) {
+    Reply state(const Request& request)
+    {
         const auto ticket = m_tickets.find(field(request.json(), "ticket"));
         if (!ticket)
             return Bare::badTicket();
@@ -51,7 +56,8 @@ public:
              {QStringLiteral("mailOnly"), m_seekers.mailOnly(ticket->seeker)}});
     }
 
-    Reply continueMailOnly(const Request& request) {
+    Reply continueMailOnly(const Request& request)
+    {
         const QString id = field(request.json(), "ticket");
         const auto ticket = m_tickets.find(id);
         if (!ticket)
@@ -61,7 +67,8 @@ public:
         return signIn(id, *ticket, std::nullopt);
     }
 
-    Reply totpSetup(const Request& request) {
+    Reply totpSetup(const Request& request)
+    {
         const QString id = field(request.json(), "ticket");
         const auto ticket = m_tickets.find(id);
         if (!ticket)
@@ -73,7 +80,8 @@ public:
         return Bare::ok({{QStringLiteral("secret"), secret}});
     }
 
-    Reply totpEnroll(const Request& request) {
+    Reply totpEnroll(const Request& request)
+    {
         const QJsonObject body = request.json();
         const QString id = field(body, "ticket");
         const auto ticket = m_tickets.find(id);
@@ -91,7 +99,8 @@ public:
     }
 
     // Six digits from the authenticator, or one of the recovery codes, in the same box.
-    Reply totpLogin(const Request& request) {
+    Reply totpLogin(const Request& request)
+    {
         const QJsonObject body = request.json();
         const QString id = field(body, "ticket");
         const auto ticket = m_tickets.find(id);
@@ -111,7 +120,8 @@ public:
         return signIn(id, *ticket, std::nullopt);
     }
 
-    Reply registrationOptions(const Request& request) {
+    Reply registrationOptions(const Request& request)
+    {
         const auto ticket = m_tickets.find(field(request.json(), "ticket"));
         if (!ticket)
             return Bare::badTicket();
@@ -124,18 +134,21 @@ public:
                                                              QByteArray::OmitTrailingEquals))}}}});
     }
 
-    Reply assertionOptions(const Request& request) {
+    Reply assertionOptions(const Request& request)
+    {
         if (!m_tickets.find(field(request.json(), "ticket")))
             return Bare::badTicket();
         return Bare::ok({{QStringLiteral("challenge"), challenge()}});
     }
 
-    Reply passkeyOptions(const Request&) {
+    Reply passkeyOptions(const Request&)
+    {
         return Bare::ok({{QStringLiteral("nonce"), Secrets::token(16)},
                          {QStringLiteral("challenge"), challenge()}});
     }
 
-    Reply logout(const Request& request) {
+    Reply logout(const Request& request)
+    {
         m_sessions.close(request);
         return Bare::ok({}).withHeader("Set-Cookie", SeekerSessions::clearCookie());
     }
@@ -144,7 +157,8 @@ private:
     // Ends the ticket in a session: FactorDone with the new recovery codes, if any, and the
     // session cookie.
     Reply signIn(const QString& id, const Tickets::Ticket& ticket,
-                 const std::optional<QStringList>& recovery) {
+                 const std::optional<QStringList>& recovery)
+    {
         m_tickets.consume(id);
         QJsonObject done{{QStringLiteral("next"), afterSignIn}};
         if (recovery)
@@ -161,7 +175,8 @@ private:
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     auto h = std::make_shared<Handlers>(context);
     const QString mfa = QStringLiteral("/api/candidate/mfa/");
     router.add("POST", mfa + QStringLiteral("state"),

@@ -16,16 +16,19 @@ namespace vl::OAuthRoutes {
 
 namespace {
 
-Trilingual t(const char* ka, const char* en, const char* ru) {
+Trilingual t(const char* ka, const char* en, const char* ru)
+{
     return {QString::fromUtf8(ka), QString::fromUtf8(en), QString::fromUtf8(ru)};
 }
 
-QString pickUrl(const QString& email, const QString& lang) {
+QString pickUrl(const QString& email, const QString& lang)
+{
     return QStringLiteral("/api/candidate/oauth/pick?app=1&hl=%1&email=%2")
         .arg(lang, QString::fromLatin1(QUrl::toPercentEncoding(email)));
 }
 
-QByteArray page(const QString& lang, const QString& body) {
+QByteArray page(const QString& lang, const QString& body)
+{
     static const Trilingual title = t("Google-ით შესვლა (სატესტო)", "Sign in with Google (sandbox)",
                                       "Вход через Google (тестовый)");
     return QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\"><head><meta charset=\"utf-8\">"
@@ -41,9 +44,12 @@ public:
     explicit Handlers(Context& context)
         : m_store(context.store)
         , m_seekers(context.store, context.clock)
-        , m_tickets(context.store, context.clock) {}
+        , m_tickets(context.store, context.clock)
+    {
+    }
 
-    Reply accounts(const Request& request) {
+    Reply accounts(const Request& request)
+    {
         const QString lang = normalizeLocale(request.queryValue(QStringLiteral("hl")));
         if (request.queryValue(QStringLiteral("provider")) != QLatin1String("google"))
             return Reply::html(page(lang, QStringLiteral("<p>Unknown provider.</p>")), 400);
@@ -76,7 +82,8 @@ public:
         return Reply::html(page(lang, body));
     }
 
-    Reply pick(const Request& request) {
+    Reply pick(const Request& request)
+    {
         const QString lang = normalizeLocale(request.queryValue(QStringLiteral("hl")));
         const QString email = request.queryValue(QStringLiteral("email")).trimmed();
         if (!Secrets::isEmail(email))
@@ -87,7 +94,8 @@ public:
     }
 
 private:
-    static QString factor(bool authenticator, bool mailOnly, const QString& lang) {
+    static QString factor(bool authenticator, bool mailOnly, const QString& lang)
+    {
         static const Trilingual app =
             t("ავთენტიფიკატორი", "authenticator app", "приложение-аутентификатор");
         static const Trilingual none =
@@ -106,7 +114,8 @@ private:
 
 } // namespace
 
-void install(Router& router, Context& context) {
+void install(Router& router, Context& context)
+{
     auto h = std::make_shared<Handlers>(context);
     router.add("GET", QStringLiteral("/api/candidate/oauth"),
                [h](const Request& r) { return h->accounts(r); });

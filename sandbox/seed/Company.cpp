@@ -4,11 +4,13 @@ namespace vl {
 
 namespace {
 
-Trilingual names(const char* ka, const char* en, const char* ru) {
+Trilingual names(const char* ka, const char* en, const char* ru)
+{
     return {QString::fromUtf8(ka), QString::fromUtf8(en), QString::fromUtf8(ru)};
 }
 
-QStringList list(std::initializer_list<const char*> items) {
+QStringList list(std::initializer_list<const char*> items)
+{
     QStringList out;
     for (const char* item : items)
         out.append(QString::fromLatin1(item));
@@ -17,7 +19,8 @@ QStringList list(std::initializer_list<const char*> items) {
 
 } // namespace
 
-const QList<Company>& Company::all() {
+const QList<Company>& Company::all()
+{
     static const QList<Company> companies{
         {QStringLiteral("tonis-puri"), QStringLiteral("hr@tonispuri.ge"),
          names("„თონის პური“", "Tonis Puri Bakery", "Пекарня «Тонис Пури»"),
@@ -212,7 +215,8 @@ const QList<Company>& Company::all() {
     return companies;
 }
 
-const Company& Company::privatePerson() {
+const Company& Company::privatePerson()
+{
     static const Company person{
         QStringLiteral("private"),
         {},

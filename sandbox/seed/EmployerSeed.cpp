@@ -37,7 +37,8 @@ constexpr Desk desks[] = {
     {"kalata", 0, 73, 15, false, 0, false, nullptr, false, 0, "review", false, 800},
 };
 
-const Desk* deskOf(const QString& key) {
+const Desk* deskOf(const QString& key)
+{
     for (const Desk& desk : desks) {
         if (key == QLatin1String(desk.key))
             return &desk;
@@ -45,18 +46,21 @@ const Desk* deskOf(const QString& key) {
     return nullptr;
 }
 
-QVariant orNull(const QString& value) {
+QVariant orNull(const QString& value)
+{
     return value.isEmpty() ? QVariant() : QVariant(value);
 }
 
 // An empty text column holds "", never NULL.
-QString orEmpty(const QString& value) {
+QString orEmpty(const QString& value)
+{
     return value.isNull() ? QStringLiteral("") : value;
 }
 
 } // namespace
 
-QHash<QString, qint64> write(Store& store, const Clock& clock) {
+QHash<QString, qint64> write(Store& store, const Clock& clock)
+{
     QSqlQuery insert = store.prepare(QStringLiteral(
         "INSERT INTO employers(key, email, name, name_ka, name_en, name_ru, locale, website, "
         "phone, unread, applications, new_applications, has_mfa, pro_paid, pro_until, "

@@ -11,11 +11,13 @@ namespace vl::ListingText {
 
 namespace {
 
-QString u8(const char* text) {
+QString u8(const char* text)
+{
     return QString::fromUtf8(text);
 }
 
-QString money(const ListingTerms& t, const QString& lang) {
+QString money(const ListingTerms& t, const QString& lang)
+{
     const auto amount = [&lang](int value) {
         return lang == QLatin1String("en") ? QStringLiteral("₾%1").arg(value)
                                            : QStringLiteral("%1 ₾").arg(value);
@@ -35,7 +37,8 @@ QString money(const ListingTerms& t, const QString& lang) {
     return upTo.in(lang).arg(amount(*t.salaryMax));
 }
 
-QString payLine(const ListingTerms& t, const QString& lang) {
+QString payLine(const ListingTerms& t, const QString& lang)
+{
     if (!t.salaryMin && !t.salaryMax) {
         const Trilingual negotiable{u8("ანაზღაურება — შეთანხმებით."), u8("Pay is negotiable."),
                                     u8("Оплата по договорённости.")};
@@ -54,11 +57,13 @@ QString payLine(const ListingTerms& t, const QString& lang) {
     return line.in(lang).arg(money(t, lang));
 }
 
-bool remote(const ListingTerms& t) {
+bool remote(const ListingTerms& t)
+{
     return t.city->key == QLatin1String("remote");
 }
 
-QString vacancyIntro(const ListingTerms& t, const QString& lang) {
+QString vacancyIntro(const ListingTerms& t, const QString& lang)
+{
     const QString employer = t.company->name.in(lang);
     if (remote(t)) {
         const Trilingual intro{u8("%1 გიწვევთ დისტანციურ სამუშაოზე."),
@@ -71,7 +76,8 @@ QString vacancyIntro(const ListingTerms& t, const QString& lang) {
     return intro.in(lang).arg(employer, t.city->where.in(lang));
 }
 
-QString gigIntro(const ListingTerms& t, const QString& lang) {
+QString gigIntro(const ListingTerms& t, const QString& lang)
+{
     const QString date = QDate::fromString(t.gigDate, Qt::ISODate).toString(u"dd.MM.yyyy");
     if (remote(t)) {
         const Trilingual intro{u8("ერთჯერადი დისტანციური სამუშაო, %1, დაახლოებით %2 საათი."),
@@ -85,14 +91,16 @@ QString gigIntro(const ListingTerms& t, const QString& lang) {
     return intro.in(lang).arg(t.city->where.in(lang), date).arg(t.gigHours);
 }
 
-QString bullets(const QString& heading, const QStringList& items) {
+QString bullets(const QString& heading, const QStringList& items)
+{
     QString out = heading;
     for (const QString& item : items)
         out += QStringLiteral("\n• ") + item;
     return out;
 }
 
-QStringList requirements(const ListingTerms& t, const QString& lang) {
+QStringList requirements(const ListingTerms& t, const QString& lang)
+{
     const Trilingual experience =
         t.role->noExperience
             ? Trilingual{u8("სამუშაო გამოცდილება არ არის სავალდებულო — გასწავლით ადგილზე."),
@@ -110,7 +118,8 @@ QStringList requirements(const ListingTerms& t, const QString& lang) {
     return {experience.in(lang), second.in(lang)};
 }
 
-QStringList offers(const ListingTerms& t, const QString& lang) {
+QStringList offers(const ListingTerms& t, const QString& lang)
+{
     Trilingual terms;
     if (t.employmentType == QLatin1String("part_time"))
         terms = {u8("ნახევარი განაკვეთი, მოქნილი გრაფიკი."), u8("Part-time with flexible hours."),
@@ -135,7 +144,8 @@ QStringList offers(const ListingTerms& t, const QString& lang) {
     return {terms.in(lang), team.in(lang)};
 }
 
-QString vacancy(const ListingTerms& t, const QString& lang) {
+QString vacancy(const ListingTerms& t, const QString& lang)
+{
     const Trilingual position{u8("პოზიცია: %1."), u8("Position: %1."), u8("Вакансия: %1.")};
     const Trilingual duties{u8("მოვალეობები:"), u8("What you will do:"), u8("Обязанности:")};
     const Trilingual asks{u8("მოთხოვნები:"), u8("What we ask:"), u8("Требования:")};
@@ -147,7 +157,8 @@ QString vacancy(const ListingTerms& t, const QString& lang) {
     return parts.join(QStringLiteral("\n\n"));
 }
 
-QString gig(const ListingTerms& t, const QString& lang) {
+QString gig(const ListingTerms& t, const QString& lang)
+{
     QStringList parts{gigIntro(t, lang)};
     if (!t.fromPrivatePerson) {
         const Trilingual by{u8("დამკვეთი: %1."), u8("Posted by %1."), u8("Заказчик: %1.")};
@@ -165,11 +176,13 @@ QString gig(const ListingTerms& t, const QString& lang) {
 
 } // namespace
 
-Trilingual title(const ListingTerms& terms) {
+Trilingual title(const ListingTerms& terms)
+{
     return terms.role->title;
 }
 
-Trilingual description(const ListingTerms& terms) {
+Trilingual description(const ListingTerms& terms)
+{
     const auto write = [&terms](const QString& lang) {
         QString text =
             terms.role->kind == QLatin1String("gig") ? gig(terms, lang) : vacancy(terms, lang);

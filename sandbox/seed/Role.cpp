@@ -391,11 +391,13 @@ constexpr Row rows[] = {
 };
 // clang-format on
 
-Trilingual tri(const char* ka, const char* en, const char* ru) {
+Trilingual tri(const char* ka, const char* en, const char* ru)
+{
     return {QString::fromUtf8(ka), QString::fromUtf8(en), QString::fromUtf8(ru)};
 }
 
-QHash<QString, Role> catalogue() {
+QHash<QString, Role> catalogue()
+{
     QHash<QString, Role> out;
     for (const Row& row : rows) {
         Role role;
@@ -418,7 +420,8 @@ QHash<QString, Role> catalogue() {
 
 } // namespace
 
-const Role* Role::find(const QString& key) {
+const Role* Role::find(const QString& key)
+{
     static const QHash<QString, Role> roles = catalogue();
     const auto it = roles.constFind(key);
     return it == roles.cend() ? nullptr : &*it;

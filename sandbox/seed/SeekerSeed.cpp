@@ -35,7 +35,8 @@ constexpr Seeker seekers[] = {
 
 } // namespace
 
-void write(Store& store, const Clock& clock) {
+void write(Store& store, const Clock& clock)
+{
     SeekerAccounts accounts(store, clock);
     for (const Seeker& s : seekers) {
         const qint64 id =

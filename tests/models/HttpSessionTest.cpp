@@ -42,7 +42,8 @@ struct Answer {
     static Answer hangUp() { return {{}, Then::Close}; }
 };
 
-QByteArray ok(QByteArray body, QByteArray fields = {}) {
+QByteArray ok(QByteArray body, QByteArray fields = {})
+{
     return "HTTP/1.1 200 OK\r\n" + fields + "Content-Length: " + QByteArray::number(body.size()) +
            "\r\n\r\n" + body;
 }
@@ -52,20 +53,23 @@ QByteArray ok(QByteArray body, QByteArray fields = {}) {
 class FakeServer : public QObject {
 public:
     explicit FakeServer(QTcpServer* server = new QTcpServer)
-        : m_server(server) {
+        : m_server(server)
+    {
         m_server->setParent(this);
         connect(m_server, &QTcpServer::pendingConnectionAvailable, this, &FakeServer::accept);
         m_server->listen(QHostAddress::LocalHost, 0);
     }
 
-    QUrl url(const QString& path, const QString& scheme = QStringLiteral("http")) const {
+    QUrl url(const QString& path, const QString& scheme = QStringLiteral("http")) const
+    {
         return QUrl(scheme + QStringLiteral("://127.0.0.1:") + QString::number(port()) + path);
     }
     quint16 port() const { return m_server->serverPort(); }
     QByteArray host() const { return "127.0.0.1:" + QByteArray::number(port()); }
 
     void script(Answer answer) { m_answers.append(std::move(answer)); }
-    bool waitForRequests(qsizetype count) {
+    bool waitForRequests(qsizetype count)
+    {
         return QTest::qWaitFor([&] { return requests.size() >= count; }, 5000);
     }
 
@@ -73,7 +77,8 @@ public:
     int connections = 0;
 
 private:
-    void accept() {
+    void accept()
+    {
         while (m_server->hasPendingConnections()) {
             QTcpSocket* socket = m_server->nextPendingConnection();
             ++connections;
@@ -82,7 +87,8 @@ private:
         }
     }
 
-    void read(QTcpSocket* socket) {
+    void read(QTcpSocket* socket)
+    {
         QByteArray& inbox = m_inboxes[socket];
         inbox += socket->readAll();
         for (;;) {
@@ -107,7 +113,8 @@ private:
         }
     }
 
-    void respond(QPointer<QTcpSocket> socket, Answer answer, qsizetype index) {
+    void respond(QPointer<QTcpSocket> socket, Answer answer, qsizetype index)
+    {
         if (!socket)
             return;
         if (index < answer.pieces.size()) {
@@ -129,7 +136,8 @@ private:
     QHash<QTcpSocket*, QByteArray> m_inboxes;
 };
 
-bool waitFinished(QNetworkReply* reply) {
+bool waitFinished(QNetworkReply* reply)
+{
     if (!reply->isFinished()) {
         QSignalSpy finished(reply, &QNetworkReply::finished);
         finished.wait(5000);
@@ -137,21 +145,25 @@ bool waitFinished(QNetworkReply* reply) {
     return reply->isFinished();
 }
 
-int statusOf(const QNetworkReply* reply) {
+int statusOf(const QNetworkReply* reply)
+{
     return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-bool fromCache(const QNetworkReply* reply) {
+bool fromCache(const QNetworkReply* reply)
+{
     return reply->attribute(QNetworkRequest::SourceIsFromCacheAttribute).toBool();
 }
 
 class HttpSessionTest : public testing::Test {
 protected:
-    QNetworkReply* get(const QString& path) {
+    QNetworkReply* get(const QString& path)
+    {
         return session.get(QNetworkRequest(server.url(path)));
     }
     // Runs a request and returns the reply once finished.
-    QNetworkReply* fetch(const QString& path) {
+    QNetworkReply* fetch(const QString& path)
+    {
         QNetworkReply* reply = get(path);
         EXPECT_TRUE(waitFinished(reply));
         return reply;
@@ -163,7 +175,8 @@ protected:
 
 // --- What goes on the wire ------------------------------------------------------------------
 
-TEST_F(HttpSessionTest, WritesOnlyTheFieldsTheCallerSet) {
+TEST_F(HttpSessionTest, WritesOnlyTheFieldsTheCallerSet)
+{
     for (int i = 0; i < 6; ++i)
         server.script(Answer::with(ok("{}")));
 
@@ -205,7 +218,8 @@ TEST_F(HttpSessionTest, WritesOnlyTheFieldsTheCallerSet) {
     EXPECT_EQ(uploads.last().at(1).toLongLong(), 7);
 }
 
-TEST_F(HttpSessionTest, RefusesFieldsThatWouldBreakTheirLine) {
+TEST_F(HttpSessionTest, RefusesFieldsThatWouldBreakTheirLine)
+{
     QNetworkRequest request(server.url(QStringLiteral("/x")));
     request.setRawHeader("x-vl-client", "ios\r\nX-Injected: 1");
     QNetworkReply* reply = session.get(request);
@@ -214,7 +228,8 @@ TEST_F(HttpSessionTest, RefusesFieldsThatWouldBreakTheirLine) {
     EXPECT_TRUE(server.requests.isEmpty());
 }
 
-TEST_F(HttpSessionTest, OtherSchemesStayWithQt) {
+TEST_F(HttpSessionTest, OtherSchemesStayWithQt)
+{
     QNetworkReply* reply = session.get(QNetworkRequest(QUrl(QStringLiteral("data:,hello"))));
     ASSERT_TRUE(waitFinished(reply));
     EXPECT_EQ(reply->error(), QNetworkReply::NoError);
@@ -223,7 +238,8 @@ TEST_F(HttpSessionTest, OtherSchemesStayWithQt) {
 
 // --- Reading answers ------------------------------------------------------------------------
 
-TEST_F(HttpSessionTest, ReadsEveryBodyFraming) {
+TEST_F(HttpSessionTest, ReadsEveryBodyFraming)
+{
     server.script(Answer::with("HTTP/1.1 201 Created\r\nContent-Type: application/json; "
                                "charset=utf-8\r\nContent-Length: 11\r\n\r\n{\"ok\":true}"));
     server.script(Answer::with("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nTransfer-Encoding: "
@@ -263,7 +279,8 @@ TEST_F(HttpSessionTest, ReadsEveryBodyFraming) {
     EXPECT_EQ(server.connections, 1);
 }
 
-TEST_F(HttpSessionTest, ErrorStatusesKeepTheirBodyReadable) {
+TEST_F(HttpSessionTest, ErrorStatusesKeepTheirBodyReadable)
+{
     server.script(Answer::with("HTTP/1.1 404 Not Found\r\nContent-Length: 29\r\n\r\n"
                                "{\"ok\":false,\"error\":\"gone\"}\r\n"));
     server.script(Answer::with("HTTP/1.1 500 Internal Server Error\r\nContent-Length: 4\r\n\r\n"
@@ -285,7 +302,8 @@ TEST_F(HttpSessionTest, ErrorStatusesKeepTheirBodyReadable) {
     EXPECT_EQ(limited->readAll(), "{}");
 }
 
-TEST_F(HttpSessionTest, BrokenAnswersAreTransportErrors) {
+TEST_F(HttpSessionTest, BrokenAnswersAreTransportErrors)
+{
     server.script(Answer::closing("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\npartial"));
     QNetworkReply* dropped = fetch(QStringLiteral("/dropped"));
     EXPECT_EQ(dropped->error(), QNetworkReply::RemoteHostClosedError);
@@ -305,7 +323,8 @@ TEST_F(HttpSessionTest, BrokenAnswersAreTransportErrors) {
     EXPECT_EQ(refused->error(), QNetworkReply::ConnectionRefusedError);
 }
 
-TEST(HttpResponseParserTest, DecodesAnswersDeliveredOneByteAtATime) {
+TEST(HttpResponseParserTest, DecodesAnswersDeliveredOneByteAtATime)
+{
     struct Case {
         QByteArray wire;
         QByteArray body;
@@ -363,7 +382,8 @@ TEST(HttpResponseParserTest, DecodesAnswersDeliveredOneByteAtATime) {
 
 // --- Cookies --------------------------------------------------------------------------------
 
-TEST_F(HttpSessionTest, CookiesSetByOneAnswerGoWithTheNextRequest) {
+TEST_F(HttpSessionTest, CookiesSetByOneAnswerGoWithTheNextRequest)
+{
     server.script(Answer::with(ok("{}", "Set-Cookie: a=1; Path=/; HttpOnly\r\n"
                                         "Set-Cookie: b=2; Path=/\r\n")));
     server.script(Answer::with(ok("{}")));
@@ -381,7 +401,8 @@ TEST_F(HttpSessionTest, CookiesSetByOneAnswerGoWithTheNextRequest) {
 
 // --- Connections ----------------------------------------------------------------------------
 
-TEST_F(HttpSessionTest, ReusesAConnectionAndResendsWhenTheServerHadClosedIt) {
+TEST_F(HttpSessionTest, ReusesAConnectionAndResendsWhenTheServerHadClosedIt)
+{
     server.script(Answer::with(ok("one")));
     server.script(Answer::with(ok("two")));
     EXPECT_EQ(fetch(QStringLiteral("/1"))->readAll(), "one");
@@ -406,7 +427,8 @@ TEST_F(HttpSessionTest, ReusesAConnectionAndResendsWhenTheServerHadClosedIt) {
     EXPECT_EQ(other.requests.size(), 1);
 }
 
-TEST_F(HttpSessionTest, ParallelRequestsUseSeparateConnections) {
+TEST_F(HttpSessionTest, ParallelRequestsUseSeparateConnections)
+{
     server.script(Answer::with(ok("same")));
     server.script(Answer::with(ok("same")));
     QNetworkReply* a = get(QStringLiteral("/a"));
@@ -419,7 +441,8 @@ TEST_F(HttpSessionTest, ParallelRequestsUseSeparateConnections) {
 
 // --- Redirects ------------------------------------------------------------------------------
 
-TEST_F(HttpSessionTest, FollowsRedirectsLikeABrowser) {
+TEST_F(HttpSessionTest, FollowsRedirectsLikeABrowser)
+{
     server.script(Answer::with("HTTP/1.1 302 Found\r\nLocation: /b?x=1\r\nContent-Length: 3\r\n\r\n"
                                "moo"));
     server.script(Answer::with(ok("final")));
@@ -453,7 +476,8 @@ TEST_F(HttpSessionTest, FollowsRedirectsLikeABrowser) {
     EXPECT_EQ(server.connections, 1);
 }
 
-TEST_F(HttpSessionTest, ARedirectToAnotherSchemeEndsTheChain) {
+TEST_F(HttpSessionTest, ARedirectToAnotherSchemeEndsTheChain)
+{
     server.script(Answer::with("HTTP/1.1 302 Found\r\nLocation: velm://auth/done?code=42\r\n"
                                "Content-Length: 0\r\n\r\n"));
     QNetworkReply* reply = fetch(QStringLiteral("/auth/start"));
@@ -465,7 +489,8 @@ TEST_F(HttpSessionTest, ARedirectToAnotherSchemeEndsTheChain) {
     EXPECT_EQ(server.requests.size(), 1);
 }
 
-TEST_F(HttpSessionTest, StopsAfterTenRedirectsAndKeepsCredentialsAtHome) {
+TEST_F(HttpSessionTest, StopsAfterTenRedirectsAndKeepsCredentialsAtHome)
+{
     for (int i = 0; i < 11; ++i)
         server.script(Answer::with("HTTP/1.1 301 Moved\r\nLocation: /loop\r\nContent-Length: "
                                    "0\r\n\r\n"));
@@ -491,7 +516,8 @@ TEST_F(HttpSessionTest, StopsAfterTenRedirectsAndKeepsCredentialsAtHome) {
 
 // --- Time-out and cancelling ----------------------------------------------------------------
 
-TEST_F(HttpSessionTest, TimesOutOnlyWhenTheConnectionFallsSilent) {
+TEST_F(HttpSessionTest, TimesOutOnlyWhenTheConnectionFallsSilent)
+{
     server.script(Answer::silence());
     QNetworkRequest request(server.url(QStringLiteral("/silent")));
     request.setTransferTimeout(300);
@@ -518,7 +544,8 @@ TEST_F(HttpSessionTest, TimesOutOnlyWhenTheConnectionFallsSilent) {
     EXPECT_EQ(slow->readAll(), "steady");
 }
 
-TEST_F(HttpSessionTest, AbortFinishesOnceAtAnyMoment) {
+TEST_F(HttpSessionTest, AbortFinishesOnceAtAnyMoment)
+{
     auto expectCancelled = [](QNetworkReply* reply, QSignalSpy& finished) {
         EXPECT_TRUE(reply->isFinished());
         EXPECT_EQ(reply->error(), QNetworkReply::OperationCanceledError);
@@ -554,7 +581,8 @@ TEST_F(HttpSessionTest, AbortFinishesOnceAtAnyMoment) {
     EXPECT_EQ(fetch(QStringLiteral("/after"))->readAll(), "fine");
 }
 
-TEST_F(HttpSessionTest, WorksWithCoroutines) {
+TEST_F(HttpSessionTest, WorksWithCoroutines)
+{
     server.script(Answer::with(ok("awaited")));
     auto run = [](QNetworkAccessManager* manager, QUrl url) -> QCoro::Task<QByteArray> {
         QNetworkReply* reply = co_await manager->get(QNetworkRequest(url));
@@ -568,7 +596,8 @@ TEST_F(HttpSessionTest, WorksWithCoroutines) {
 
 class HttpSessionCacheTest : public HttpSessionTest {
 protected:
-    void SetUp() override {
+    void SetUp() override
+    {
         ASSERT_TRUE(folder.isValid());
         auto* cache = new QNetworkDiskCache;
         cache->setCacheDirectory(folder.path());
@@ -576,7 +605,8 @@ protected:
         session.setCache(cache);
     }
 
-    QNetworkReply* fetchWith(const QString& path, QNetworkRequest::CacheLoadControl control) {
+    QNetworkReply* fetchWith(const QString& path, QNetworkRequest::CacheLoadControl control)
+    {
         QNetworkRequest request(server.url(path));
         request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, control);
         QNetworkReply* reply = session.get(request);
@@ -587,7 +617,8 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(HttpSessionCacheTest, AFreshAnswerIsServedWithoutTheNetwork) {
+TEST_F(HttpSessionCacheTest, AFreshAnswerIsServedWithoutTheNetwork)
+{
     server.script(Answer::with(ok("first", "Cache-Control: max-age=60\r\n")));
     QNetworkReply* network = fetch(QStringLiteral("/config"));
     EXPECT_FALSE(fromCache(network));
@@ -620,7 +651,8 @@ TEST_F(HttpSessionCacheTest, AFreshAnswerIsServedWithoutTheNetwork) {
     EXPECT_EQ(server.requests.size(), 4);
 }
 
-TEST_F(HttpSessionCacheTest, AStaleAnswerIsRevalidated) {
+TEST_F(HttpSessionCacheTest, AStaleAnswerIsRevalidated)
+{
     server.script(Answer::with(ok("tagged", "Cache-Control: no-cache\r\nETag: \"v1\"\r\n")));
     server.script(Answer::with("HTTP/1.1 304 Not Modified\r\nETag: \"v1\"\r\n\r\n"));
     fetch(QStringLiteral("/tagged"));
@@ -647,7 +679,8 @@ TEST_F(HttpSessionCacheTest, AStaleAnswerIsRevalidated) {
     EXPECT_TRUE(server.requests[5].contains("If-Modified-Since: " + modified + "\r\n"));
 }
 
-TEST_F(HttpSessionCacheTest, StoresOnlyWhatItMayAndHonoursTheLoadControl) {
+TEST_F(HttpSessionCacheTest, StoresOnlyWhatItMayAndHonoursTheLoadControl)
+{
     QNetworkReply* nothing = fetchWith(QStringLiteral("/none"), QNetworkRequest::AlwaysCache);
     EXPECT_EQ(nothing->error(), QNetworkReply::ContentNotFoundError);
     EXPECT_TRUE(server.requests.isEmpty());
@@ -705,7 +738,8 @@ AgJ2+GyF+QVmI0MjlviT7+Zf6NPwy4avFB+llBRMEa1bxEq6NK5HM8rN
 -----END PRIVATE KEY-----
 )";
 
-QSslServer* tlsServer() {
+QSslServer* tlsServer()
+{
     auto* server = new QSslServer;
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
     configuration.setLocalCertificate(QSslCertificate(QByteArray(testCertificate)));
@@ -714,7 +748,8 @@ QSslServer* tlsServer() {
     return server;
 }
 
-TEST(HttpSessionTlsTest, VerifiesTheServerUnlessTheCallerSaysOtherwise) {
+TEST(HttpSessionTlsTest, VerifiesTheServerUnlessTheCallerSaysOtherwise)
+{
     if (!QSslSocket::supportsSsl())
         GTEST_SKIP() << "no TLS backend";
     vl::HttpSession session;

@@ -18,7 +18,8 @@ constexpr auto varyAttribute = QNetworkRequest::User;
 
 // Fields that describe one connection or set state elsewhere: replaying them from the cache
 // would be wrong.
-bool isKeptField(QByteArrayView name) {
+bool isKeptField(QByteArrayView name)
+{
     static const QByteArrayView dropped[] = {
         "connection",          "keep-alive", "proxy-authenticate",
         "proxy-authorization", "te",         "trailer",
@@ -30,7 +31,8 @@ bool isKeptField(QByteArrayView name) {
     return true;
 }
 
-QDateTime parseHttpDate(const QByteArray& text) {
+QDateTime parseHttpDate(const QByteArray& text)
+{
     if (text.isEmpty())
         return {};
     // QNetworkRequest reads every date form HTTP allows (IMF-fixdate, RFC 850, asctime) when
@@ -40,26 +42,30 @@ QDateTime parseHttpDate(const QByteArray& text) {
     return probe.header(QNetworkRequest::LastModifiedHeader).toDateTime();
 }
 
-QByteArray formatHttpDate(const QDateTime& moment) {
+QByteArray formatHttpDate(const QDateTime& moment)
+{
     return QLocale::c()
         .toString(moment.toUTC(), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"))
         .toLatin1();
 }
 
-HttpResponseHead headOf(const Fields& fields) {
+HttpResponseHead headOf(const Fields& fields)
+{
     HttpResponseHead head;
     head.fields = fields;
     return head;
 }
 
-QList<QByteArray> cacheDirectives(const QList<QByteArray>& items) {
+QList<QByteArray> cacheDirectives(const QList<QByteArray>& items)
+{
     QList<QByteArray> directives;
     for (const QByteArray& item : items)
         directives.append(item.toLower());
     return directives;
 }
 
-bool hasDirective(const QList<QByteArray>& directives, QByteArrayView name) {
+bool hasDirective(const QList<QByteArray>& directives, QByteArrayView name)
+{
     for (const QByteArray& directive : directives) {
         if (directive == name || (directive.startsWith(name) && directive.size() > name.size() &&
                                   directive.at(name.size()) == '='))
@@ -69,7 +75,8 @@ bool hasDirective(const QList<QByteArray>& directives, QByteArrayView name) {
 }
 
 // Seconds an answer stays fresh from its Date, or nothing when it does not say.
-std::optional<qint64> freshnessLifetime(const HttpResponseHead& head, const QDateTime& date) {
+std::optional<qint64> freshnessLifetime(const HttpResponseHead& head, const QDateTime& date)
+{
     const QList<QByteArray> directives = cacheDirectives(head.listItems("Cache-Control"));
     if (hasDirective(directives, "no-cache"))
         return 0;
@@ -90,7 +97,8 @@ std::optional<qint64> freshnessLifetime(const HttpResponseHead& head, const QDat
     return std::nullopt;
 }
 
-QDateTime expirationOf(const HttpResponseHead& head, const QDateTime& received) {
+QDateTime expirationOf(const HttpResponseHead& head, const QDateTime& received)
+{
     QDateTime date = parseHttpDate(head.value("Date"));
     if (!date.isValid())
         date = received;
@@ -108,10 +116,13 @@ QDateTime expirationOf(const HttpResponseHead& head, const QDateTime& received) 
 } // namespace
 
 HttpCache::HttpCache(QAbstractNetworkCache* store)
-    : m_store(store) {}
+    : m_store(store)
+{
+}
 
 std::optional<QNetworkCacheMetaData> HttpCache::lookup(const QUrl& url,
-                                                       const QNetworkRequest& request) const {
+                                                       const QNetworkRequest& request) const
+{
     if (!m_store)
         return std::nullopt;
     const QNetworkCacheMetaData stored = m_store->metaData(url);
@@ -127,7 +138,8 @@ std::optional<QNetworkCacheMetaData> HttpCache::lookup(const QUrl& url,
     return stored;
 }
 
-std::optional<QByteArray> HttpCache::body(const QUrl& url) const {
+std::optional<QByteArray> HttpCache::body(const QUrl& url) const
+{
     if (!m_store)
         return std::nullopt;
     const std::unique_ptr<QIODevice> device(m_store->data(url));
@@ -136,11 +148,13 @@ std::optional<QByteArray> HttpCache::body(const QUrl& url) const {
     return device->readAll();
 }
 
-bool HttpCache::isFresh(const QNetworkCacheMetaData& stored, const QDateTime& now) {
+bool HttpCache::isFresh(const QNetworkCacheMetaData& stored, const QDateTime& now)
+{
     return stored.expirationDate().isValid() && now < stored.expirationDate();
 }
 
-QList<QPair<QByteArray, QByteArray>> HttpCache::validators(const QNetworkCacheMetaData& stored) {
+QList<QPair<QByteArray, QByteArray>> HttpCache::validators(const QNetworkCacheMetaData& stored)
+{
     const HttpResponseHead head = headOf(stored.rawHeaders());
     QList<QPair<QByteArray, QByteArray>> fields;
     if (head.has("ETag"))
@@ -150,7 +164,8 @@ QList<QPair<QByteArray, QByteArray>> HttpCache::validators(const QNetworkCacheMe
     return fields;
 }
 
-bool HttpCache::canStore(const HttpResponseHead& head, const QNetworkRequest& request) {
+bool HttpCache::canStore(const HttpResponseHead& head, const QNetworkRequest& request)
+{
     if (head.status != 200 ||
         !request.attribute(QNetworkRequest::CacheSaveControlAttribute, true).toBool())
         return false;
@@ -172,8 +187,8 @@ bool HttpCache::canStore(const HttpResponseHead& head, const QNetworkRequest& re
 }
 
 QNetworkCacheMetaData HttpCache::describe(const QUrl& url, const HttpResponseHead& head,
-                                          const QNetworkRequest& request,
-                                          const QDateTime& received) {
+                                          const QNetworkRequest& request, const QDateTime& received)
+{
     Fields fields;
     for (const auto& field : head.fields) {
         if (isKeptField(field.first))
@@ -203,7 +218,8 @@ QNetworkCacheMetaData HttpCache::describe(const QUrl& url, const HttpResponseHea
 
 QNetworkCacheMetaData HttpCache::refresh(const QNetworkCacheMetaData& stored,
                                          const HttpResponseHead& notModified,
-                                         const QDateTime& received) {
+                                         const QDateTime& received)
+{
     QSet<QByteArray> replaced;
     Fields updates;
     for (const auto& field : notModified.fields) {

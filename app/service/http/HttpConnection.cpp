@@ -8,7 +8,8 @@ namespace vl {
 
 namespace {
 
-QNetworkReply::NetworkError replyError(QAbstractSocket::SocketError error, bool connected) {
+QNetworkReply::NetworkError replyError(QAbstractSocket::SocketError error, bool connected)
+{
     switch (error) {
     case QAbstractSocket::ConnectionRefusedError:
         return QNetworkReply::ConnectionRefusedError;
@@ -47,20 +48,23 @@ HttpConnection::HttpConnection(const QUrl& url, const QSslConfiguration& tls, QO
     , m_key(keyFor(url))
     , m_host(url.host())
     , m_tls(url.scheme().compare(QLatin1String("https"), Qt::CaseInsensitive) == 0)
-    , m_tlsConfiguration(tls) {
+    , m_tlsConfiguration(tls)
+{
     m_port = quint16(url.port(m_tls ? 443 : 80));
     m_restTimer.setSingleShot(true);
     connect(&m_restTimer, &QTimer::timeout, this, &HttpConnection::expire);
 }
 
-QString HttpConnection::keyFor(const QUrl& url) {
+QString HttpConnection::keyFor(const QUrl& url)
+{
     const QString scheme = url.scheme().toLower();
     const int port = url.port(scheme == QLatin1String("https") ? 443 : 80);
     return scheme + QLatin1String("://") + url.host().toLower() + QLatin1Char(':') +
            QString::number(port);
 }
 
-void HttpConnection::send(QByteArray request, bool answersHead) {
+void HttpConnection::send(QByteArray request, bool answersHead)
+{
     m_restTimer.stop();
     m_parser = HttpResponseParser(answersHead);
     m_headSignalled = false;
@@ -75,7 +79,8 @@ void HttpConnection::send(QByteArray request, bool answersHead) {
     m_socket->write(std::exchange(m_pending, QByteArray()));
 }
 
-void HttpConnection::connectSocket() {
+void HttpConnection::connectSocket()
+{
     m_phase = Phase::Connecting;
     if (m_tls) {
         auto* socket = new QSslSocket(this);
@@ -107,7 +112,8 @@ void HttpConnection::connectSocket() {
         m_socket->connectToHost(m_host, m_port);
 }
 
-void HttpConnection::onReady() {
+void HttpConnection::onReady()
+{
     m_connected = true;
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     if (m_tls)
@@ -121,7 +127,8 @@ void HttpConnection::onReady() {
     m_socket->write(std::exchange(m_pending, QByteArray()));
 }
 
-void HttpConnection::onBytesWritten(qint64 count) {
+void HttpConnection::onBytesWritten(qint64 count)
+{
     if (m_phase != Phase::Exchanging)
         return;
     m_written += count;
@@ -130,7 +137,8 @@ void HttpConnection::onBytesWritten(qint64 count) {
         Q_EMIT requestBytesWritten(m_written);
 }
 
-void HttpConnection::onReadyRead() {
+void HttpConnection::onReadyRead()
+{
     if (m_phase == Phase::Resting) {
         // The server has nothing to say to a connection it is not answering, except that it
         // closes it.
@@ -143,7 +151,8 @@ void HttpConnection::onReadyRead() {
         m_reusable = false;
 }
 
-void HttpConnection::readAvailable() {
+void HttpConnection::readAvailable()
+{
     const QByteArray data = m_socket->readAll();
     if (data.isEmpty())
         return;
@@ -168,20 +177,23 @@ void HttpConnection::readAvailable() {
                        m_socket->state() == QAbstractSocket::ConnectedState);
 }
 
-void HttpConnection::passBody() {
+void HttpConnection::passBody()
+{
     const QByteArray chunk = m_parser.takeBody();
     if (!chunk.isEmpty())
         Q_EMIT bodyReceived(chunk);
 }
 
-void HttpConnection::finishExchange(bool reusable) {
+void HttpConnection::finishExchange(bool reusable)
+{
     m_phase = Phase::Ready;
     m_reusable = reusable;
     ++m_served;
     Q_EMIT completed();
 }
 
-void HttpConnection::onSocketEnded(QAbstractSocket::SocketError error) {
+void HttpConnection::onSocketEnded(QAbstractSocket::SocketError error)
+{
     switch (m_phase) {
     case Phase::Resting:
         expire();
@@ -205,23 +217,27 @@ void HttpConnection::onSocketEnded(QAbstractSocket::SocketError error) {
     fail(replyError(error, m_connected), m_socket->errorString());
 }
 
-void HttpConnection::fail(QNetworkReply::NetworkError error, const QString& message) {
+void HttpConnection::fail(QNetworkReply::NetworkError error, const QString& message)
+{
     m_phase = Phase::Gone;
     m_reusable = false;
     Q_EMIT failed(error, message);
 }
 
-void HttpConnection::rest(std::chrono::milliseconds limit) {
+void HttpConnection::rest(std::chrono::milliseconds limit)
+{
     m_phase = Phase::Resting;
     m_restTimer.start(limit);
 }
 
-bool HttpConnection::isOpen() const {
+bool HttpConnection::isOpen() const
+{
     return (m_phase == Phase::Ready || m_phase == Phase::Resting) && m_reusable && m_socket &&
            m_socket->state() == QAbstractSocket::ConnectedState && m_socket->bytesAvailable() == 0;
 }
 
-void HttpConnection::expire() {
+void HttpConnection::expire()
+{
     if (m_phase == Phase::Gone)
         return;
     m_phase = Phase::Gone;
@@ -229,7 +245,8 @@ void HttpConnection::expire() {
     Q_EMIT expired();
 }
 
-void HttpConnection::discard() {
+void HttpConnection::discard()
+{
     m_phase = Phase::Gone;
     m_restTimer.stop();
     disconnect(this, nullptr, nullptr, nullptr);
@@ -240,19 +257,22 @@ void HttpConnection::discard() {
     deleteLater();
 }
 
-void HttpConnection::ignoreSslErrors() {
+void HttpConnection::ignoreSslErrors()
+{
     m_ignoresAllSslErrors = true;
     if (auto* socket = qobject_cast<QSslSocket*>(m_socket))
         socket->ignoreSslErrors();
 }
 
-void HttpConnection::ignoreSslErrors(const QList<QSslError>& errors) {
+void HttpConnection::ignoreSslErrors(const QList<QSslError>& errors)
+{
     m_expectedSslErrors = errors;
     if (auto* socket = qobject_cast<QSslSocket*>(m_socket))
         socket->ignoreSslErrors(errors);
 }
 
-QSslConfiguration HttpConnection::sslConfiguration() const {
+QSslConfiguration HttpConnection::sslConfiguration() const
+{
     if (auto* socket = qobject_cast<QSslSocket*>(m_socket))
         return socket->sslConfiguration();
     return m_tlsConfiguration;

@@ -51,7 +51,8 @@ public:
 
     void ignoreSslErrors();
     void ignoreSslErrors(const QList<QSslError>& errors);
-    bool ignoresSslErrors() const {
+    bool ignoresSslErrors() const
+    {
         return m_ignoresAllSslErrors || !m_expectedSslErrors.isEmpty();
     }
     QSslConfiguration sslConfiguration() const;

@@ -18,9 +18,12 @@ constexpr qsizetype maxRestingPerOrigin = 6;
 } // namespace
 
 HttpConnectionPool::HttpConnectionPool(QObject* parent)
-    : QObject(parent) {}
+    : QObject(parent)
+{
+}
 
-HttpConnection* HttpConnectionPool::take(const QUrl& url) {
+HttpConnection* HttpConnectionPool::take(const QUrl& url)
+{
     const auto found = m_resting.find(HttpConnection::keyFor(url));
     if (found == m_resting.end())
         return nullptr;
@@ -36,11 +39,13 @@ HttpConnection* HttpConnectionPool::take(const QUrl& url) {
     return nullptr;
 }
 
-HttpConnection* HttpConnectionPool::open(const QUrl& url, const QSslConfiguration& tls) {
+HttpConnection* HttpConnectionPool::open(const QUrl& url, const QSslConfiguration& tls)
+{
     return new HttpConnection(url, tls, this);
 }
 
-void HttpConnectionPool::giveBack(HttpConnection* connection) {
+void HttpConnectionPool::giveBack(HttpConnection* connection)
+{
     if (!connection->isOpen() || connection->ignoresSslErrors()) {
         connection->discard();
         return;
@@ -53,7 +58,8 @@ void HttpConnectionPool::giveBack(HttpConnection* connection) {
     connection->rest(restLimit);
 }
 
-void HttpConnectionPool::drop(HttpConnection* connection) {
+void HttpConnectionPool::drop(HttpConnection* connection)
+{
     const auto found = m_resting.find(connection->key());
     if (found != m_resting.end()) {
         found.value().removeOne(connection);

@@ -19,17 +19,20 @@ namespace {
 
 constexpr int maxRedirects = 10;
 
-bool sameName(QByteArrayView a, QByteArrayView b) {
+bool sameName(QByteArrayView a, QByteArrayView b)
+{
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
 // Fields whose value this transport decides itself, whatever the request carries.
-bool isTransportField(QByteArrayView name) {
+bool isTransportField(QByteArrayView name)
+{
     return sameName(name, "Host") || sameName(name, "Content-Length") ||
            sameName(name, "Transfer-Encoding") || sameName(name, "Connection");
 }
 
-bool isConditionalField(QByteArrayView name) {
+bool isConditionalField(QByteArrayView name)
+{
     return sameName(name, "If-None-Match") || sameName(name, "If-Modified-Since") ||
            sameName(name, "If-Match") || sameName(name, "If-Unmodified-Since") ||
            sameName(name, "If-Range") || sameName(name, "Range");
@@ -37,12 +40,14 @@ bool isConditionalField(QByteArrayView name) {
 
 // A field name or value that could end the line early would let a caller's value write fields
 // of its own, or a second request.
-bool staysOnItsLine(QByteArrayView text) {
+bool staysOnItsLine(QByteArrayView text)
+{
     return std::none_of(text.begin(), text.end(),
                         [](char c) { return c == '\r' || c == '\n' || c == '\0'; });
 }
 
-bool isToken(QByteArrayView text) {
+bool isToken(QByteArrayView text)
+{
     static const QByteArrayView extra = "!#$%&'*+-.^_`|~";
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](char c) {
         return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
@@ -50,16 +55,19 @@ bool isToken(QByteArrayView text) {
     });
 }
 
-bool isRedirectStatus(int status) {
+bool isRedirectStatus(int status)
+{
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
-bool isSafeMethod(QByteArrayView verb) {
+bool isSafeMethod(QByteArrayView verb)
+{
     return verb == "GET" || verb == "HEAD" || verb == "OPTIONS" || verb == "TRACE";
 }
 
 // The error Qt's own HTTP backend reports for an error status.
-QNetworkReply::NetworkError statusError(int status) {
+QNetworkReply::NetworkError statusError(int status)
+{
     switch (status) {
     case 400:
     case 418:
@@ -90,7 +98,8 @@ QNetworkReply::NetworkError statusError(int status) {
     }
 }
 
-QByteArray hostField(const QUrl& url) {
+QByteArray hostField(const QUrl& url)
+{
     QByteArray host = url.host(QUrl::FullyEncoded).toLatin1();
     if (host.contains(':'))
         host = '[' + host + ']';
@@ -101,7 +110,8 @@ QByteArray hostField(const QUrl& url) {
     return host;
 }
 
-QUrl locationOf(const HttpResponseHead& head) {
+QUrl locationOf(const HttpResponseHead& head)
+{
     return QUrl(QString::fromUtf8(head.value("Location")));
 }
 
@@ -116,7 +126,8 @@ HttpReply::HttpReply(HttpSession* session, QNetworkAccessManager::Operation oper
     , m_url(request.url())
     , m_body(std::move(body))
     , m_tls(request.sslConfiguration())
-    , m_usedTls(m_tls) {
+    , m_usedTls(m_tls)
+{
     setRequest(request);
     setUrl(m_url);
     setOperation(operation);
@@ -132,45 +143,53 @@ HttpReply::HttpReply(HttpSession* session, QNetworkAccessManager::Operation oper
     QMetaObject::invokeMethod(this, &HttpReply::startHop, Qt::QueuedConnection);
 }
 
-HttpReply::~HttpReply() {
+HttpReply::~HttpReply()
+{
     if (m_connection)
         m_connection->discard();
     cancelCacheWrite();
 }
 
-void HttpReply::abort() {
+void HttpReply::abort()
+{
     if (m_done)
         return;
     QNetworkReply::close();
     finish(OperationCanceledError, tr("Operation canceled"));
 }
 
-void HttpReply::ignoreSslErrors() {
+void HttpReply::ignoreSslErrors()
+{
     m_ignoresAllSslErrors = true;
     if (m_connection)
         m_connection->ignoreSslErrors();
 }
 
-void HttpReply::ignoreSslErrorsImplementation(const QList<QSslError>& errors) {
+void HttpReply::ignoreSslErrorsImplementation(const QList<QSslError>& errors)
+{
     m_expectedSslErrors = errors;
     if (m_connection)
         m_connection->ignoreSslErrors(errors);
 }
 
-void HttpReply::sslConfigurationImplementation(QSslConfiguration& configuration) const {
+void HttpReply::sslConfigurationImplementation(QSslConfiguration& configuration) const
+{
     configuration = m_connection ? m_connection->sslConfiguration() : m_usedTls;
 }
 
-void HttpReply::setSslConfigurationImplementation(const QSslConfiguration& configuration) {
+void HttpReply::setSslConfigurationImplementation(const QSslConfiguration& configuration)
+{
     m_tls = configuration;
     m_usedTls = configuration;
 }
 
-qint64 HttpReply::bytesAvailable() const {
+qint64 HttpReply::bytesAvailable() const
+{
     return QNetworkReply::bytesAvailable() + (m_buffer.size() - m_readPos);
 }
 
-qint64 HttpReply::readData(char* data, qint64 maxSize) {
+qint64 HttpReply::readData(char* data, qint64 maxSize)
+{
     const qint64 available = m_buffer.size() - m_readPos;
     if (available <= 0)
         return m_done ? -1 : 0;
@@ -187,7 +206,8 @@ qint64 HttpReply::readData(char* data, qint64 maxSize) {
     return count;
 }
 
-void HttpReply::startHop() {
+void HttpReply::startHop()
+{
     if (m_done)
         return;
     const bool wellFormed =
@@ -203,7 +223,8 @@ void HttpReply::startHop() {
     sendOverNetwork(false);
 }
 
-bool HttpReply::answerFromCache() {
+bool HttpReply::answerFromCache()
+{
     m_stored.reset();
     const auto control = QNetworkRequest::CacheLoadControl(
         request()
@@ -230,7 +251,8 @@ bool HttpReply::answerFromCache() {
     return false;
 }
 
-bool HttpReply::serveStored(const QNetworkCacheMetaData& stored) {
+bool HttpReply::serveStored(const QNetworkCacheMetaData& stored)
+{
     const std::optional<QByteArray> body = HttpCache(m_session->cache()).body(m_url);
     if (!body) {
         m_stored.reset();
@@ -247,12 +269,14 @@ bool HttpReply::serveStored(const QNetworkCacheMetaData& stored) {
     return true;
 }
 
-bool HttpReply::isPoolable() const {
+bool HttpReply::isPoolable() const
+{
     return m_url.scheme().compare(QLatin1String("https"), Qt::CaseInsensitive) != 0 ||
            m_tls == QSslConfiguration::defaultConfiguration();
 }
 
-void HttpReply::sendOverNetwork(bool freshConnection) {
+void HttpReply::sendOverNetwork(bool freshConnection)
+{
     HttpConnectionPool* pool = m_session->connectionPool();
     HttpConnection* connection = isPoolable() && !freshConnection ? pool->take(m_url) : nullptr;
     if (!connection)
@@ -287,7 +311,8 @@ void HttpReply::sendOverNetwork(bool freshConnection) {
     connection->send(std::move(bytes), m_verb == "HEAD");
 }
 
-QByteArray HttpReply::requestBytes() const {
+QByteArray HttpReply::requestBytes() const
+{
     QByteArray target =
         m_url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
     if (!target.startsWith('/'))
@@ -330,12 +355,14 @@ QByteArray HttpReply::requestBytes() const {
     return bytes;
 }
 
-void HttpReply::onSslErrors(const QList<QSslError>& errors) {
+void HttpReply::onSslErrors(const QList<QSslError>& errors)
+{
     // A slot that calls ignoreSslErrors() here reaches the socket while it still waits for it.
     Q_EMIT sslErrors(errors);
 }
 
-void HttpReply::onWritten(qint64 written) {
+void HttpReply::onWritten(qint64 written)
+{
     if (m_body) {
         const qint64 total = m_body->size();
         Q_EMIT uploadProgress(qBound<qint64>(0, written - m_headLength, total), total);
@@ -348,7 +375,8 @@ void HttpReply::onWritten(qint64 written) {
     }
 }
 
-void HttpReply::onHead() {
+void HttpReply::onHead()
+{
     const HttpResponseHead head = m_connection->response().head();
     storeCookies(head);
     if (isFollowable(head)) {
@@ -365,13 +393,15 @@ void HttpReply::onHead() {
     present(head.status, head.reason, head.fields, false);
 }
 
-void HttpReply::onBody(const QByteArray& chunk) {
+void HttpReply::onBody(const QByteArray& chunk)
+{
     // The bodies of redirects and of 304s are read to keep the connection usable, then dropped.
     if (m_answer == Answer::Presented)
         appendBody(chunk);
 }
 
-void HttpReply::onCompleted() {
+void HttpReply::onCompleted()
+{
     const HttpResponseHead head = m_connection->response().head();
     releaseConnection(m_connection->isReusable());
     if (m_answer == Answer::Redirect) {
@@ -400,7 +430,8 @@ void HttpReply::onCompleted() {
     finish();
 }
 
-void HttpReply::onFailed(QNetworkReply::NetworkError error, const QString& message) {
+void HttpReply::onFailed(QNetworkReply::NetworkError error, const QString& message)
+{
     // A server may close a resting connection just as a request goes out on it; that request
     // never reached it, so it goes once more on a new connection.
     const bool resend =
@@ -414,11 +445,13 @@ void HttpReply::onFailed(QNetworkReply::NetworkError error, const QString& messa
     finish(error, message);
 }
 
-void HttpReply::onIdle() {
+void HttpReply::onIdle()
+{
     finish(TimeoutError, tr("Operation timed out"));
 }
 
-bool HttpReply::isFollowable(const HttpResponseHead& head) const {
+bool HttpReply::isFollowable(const HttpResponseHead& head) const
+{
     if (!isRedirectStatus(head.status) || !head.has("Location"))
         return false;
     QVariant policy = request().attribute(QNetworkRequest::RedirectPolicyAttribute);
@@ -432,7 +465,8 @@ bool HttpReply::isFollowable(const HttpResponseHead& head) const {
            (scheme == QLatin1String("http") || scheme == QLatin1String("https"));
 }
 
-void HttpReply::follow(const HttpResponseHead& head) {
+void HttpReply::follow(const HttpResponseHead& head)
+{
     if (m_redirects >= qMin(maxRedirects, request().maximumRedirectsAllowed())) {
         finish(TooManyRedirectsError, tr("Too many redirects"));
         return;
@@ -465,7 +499,8 @@ void HttpReply::follow(const HttpResponseHead& head) {
     startHop();
 }
 
-void HttpReply::storeCookies(const HttpResponseHead& head) {
+void HttpReply::storeCookies(const HttpResponseHead& head)
+{
     QNetworkCookieJar* jar = m_session ? m_session->cookieJar() : nullptr;
     if (!jar ||
         request()
@@ -480,7 +515,8 @@ void HttpReply::storeCookies(const HttpResponseHead& head) {
 }
 
 void HttpReply::present(int status, const QByteArray& reason,
-                        const QList<QPair<QByteArray, QByteArray>>& fields, bool fromCache) {
+                        const QList<QPair<QByteArray, QByteArray>>& fields, bool fromCache)
+{
     m_answer = Answer::Presented;
     setAttribute(QNetworkRequest::HttpStatusCodeAttribute, status);
     setAttribute(QNetworkRequest::HttpReasonPhraseAttribute, reason);
@@ -499,7 +535,8 @@ void HttpReply::present(int status, const QByteArray& reason,
     Q_EMIT metaDataChanged();
 }
 
-void HttpReply::appendBody(const QByteArray& chunk) {
+void HttpReply::appendBody(const QByteArray& chunk)
+{
     m_buffer.append(chunk);
     m_received += chunk.size();
     if (m_cacheWriter)
@@ -509,7 +546,8 @@ void HttpReply::appendBody(const QByteArray& chunk) {
         Q_EMIT downloadProgress(m_received, m_total);
 }
 
-void HttpReply::prepareCacheWrite(const HttpResponseHead& head) {
+void HttpReply::prepareCacheWrite(const HttpResponseHead& head)
+{
     QAbstractNetworkCache* store = m_session->cache();
     if (!store || !HttpCache::canStore(head, request()))
         return;
@@ -518,14 +556,16 @@ void HttpReply::prepareCacheWrite(const HttpResponseHead& head) {
         HttpCache::describe(m_url, head, request(), QDateTime::currentDateTimeUtc()));
 }
 
-void HttpReply::completeCacheWrite() {
+void HttpReply::completeCacheWrite()
+{
     QIODevice* writer = m_cacheWriter;
     m_cacheWriter = nullptr;
     if (writer && m_cacheStore)
         m_cacheStore->insert(writer);
 }
 
-void HttpReply::cancelCacheWrite() {
+void HttpReply::cancelCacheWrite()
+{
     // Removing the URL is how a cache is told to drop an insertion it has prepared.
     const bool writing = !m_cacheWriter.isNull();
     m_cacheWriter = nullptr;
@@ -533,7 +573,8 @@ void HttpReply::cancelCacheWrite() {
         m_cacheStore->remove(m_url);
 }
 
-void HttpReply::releaseConnection(bool reusable) {
+void HttpReply::releaseConnection(bool reusable)
+{
     m_idleTimer.stop();
     HttpConnection* connection = m_connection;
     m_connection = nullptr;
@@ -547,7 +588,8 @@ void HttpReply::releaseConnection(bool reusable) {
         connection->discard();
 }
 
-void HttpReply::finish(QNetworkReply::NetworkError error, const QString& message) {
+void HttpReply::finish(QNetworkReply::NetworkError error, const QString& message)
+{
     if (m_done)
         return;
     m_done = true;

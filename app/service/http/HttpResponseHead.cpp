@@ -2,7 +2,8 @@
 
 namespace vl {
 
-QByteArray HttpResponseHead::value(QByteArrayView name) const {
+QByteArray HttpResponseHead::value(QByteArrayView name) const
+{
     for (const auto& field : fields) {
         if (name.compare(field.first, Qt::CaseInsensitive) == 0)
             return field.second;
@@ -10,7 +11,8 @@ QByteArray HttpResponseHead::value(QByteArrayView name) const {
     return {};
 }
 
-QList<QByteArray> HttpResponseHead::values(QByteArrayView name) const {
+QList<QByteArray> HttpResponseHead::values(QByteArrayView name) const
+{
     QList<QByteArray> found;
     for (const auto& field : fields) {
         if (name.compare(field.first, Qt::CaseInsensitive) == 0)
@@ -19,7 +21,8 @@ QList<QByteArray> HttpResponseHead::values(QByteArrayView name) const {
     return found;
 }
 
-bool HttpResponseHead::has(QByteArrayView name) const {
+bool HttpResponseHead::has(QByteArrayView name) const
+{
     for (const auto& field : fields) {
         if (name.compare(field.first, Qt::CaseInsensitive) == 0)
             return true;
@@ -27,7 +30,8 @@ bool HttpResponseHead::has(QByteArrayView name) const {
     return false;
 }
 
-QList<QByteArray> HttpResponseHead::listItems(QByteArrayView name) const {
+QList<QByteArray> HttpResponseHead::listItems(QByteArrayView name) const
+{
     QList<QByteArray> items;
     for (const QByteArray& value : values(name)) {
         for (const QByteArray& item : value.split(',')) {

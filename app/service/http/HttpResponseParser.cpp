@@ -11,16 +11,19 @@ constexpr qsizetype maxHeadBytes = 256 * 1024;
 constexpr qsizetype maxFieldCount = 512;
 constexpr qsizetype maxChunkLine = 4096;
 
-bool isDigit(char c) {
+bool isDigit(char c)
+{
     return c >= '0' && c <= '9';
 }
 
-bool isHexDigit(char c) {
+bool isHexDigit(char c)
+{
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
 // A non-negative decimal or hexadecimal count, digits only: no sign, prefix or blanks.
-bool parseCount(QByteArrayView text, int base, qint64& out) {
+bool parseCount(QByteArrayView text, int base, qint64& out)
+{
     if (text.isEmpty() || text.size() > 15)
         return false;
     qint64 value = 0;
@@ -41,9 +44,12 @@ bool parseCount(QByteArrayView text, int base, qint64& out) {
 } // namespace
 
 HttpResponseParser::HttpResponseParser(bool answersHead)
-    : m_answersHead(answersHead) {}
+    : m_answersHead(answersHead)
+{
+}
 
-bool HttpResponseParser::feed(QByteArrayView data) {
+bool HttpResponseParser::feed(QByteArrayView data)
+{
     if (m_state == State::Failed)
         return false;
     if (data.isEmpty())
@@ -62,17 +68,20 @@ bool HttpResponseParser::feed(QByteArrayView data) {
     return m_state != State::Failed;
 }
 
-bool HttpResponseParser::finishAtClose() {
+bool HttpResponseParser::finishAtClose()
+{
     if (m_state == State::Close)
         m_state = State::Complete;
     return m_state == State::Complete;
 }
 
-qint64 HttpResponseParser::announcedLength() const {
+qint64 HttpResponseParser::announcedLength() const
+{
     return m_length;
 }
 
-bool HttpResponseParser::keepsConnection() const {
+bool HttpResponseParser::keepsConnection() const
+{
     if (m_state != State::Complete || m_closeFramed || hasLeftover())
         return false;
     bool keepAlive = false;
@@ -85,11 +94,13 @@ bool HttpResponseParser::keepsConnection() const {
     return m_head.minorVersion >= 1 || keepAlive;
 }
 
-QByteArray HttpResponseParser::takeBody() {
+QByteArray HttpResponseParser::takeBody()
+{
     return std::exchange(m_body, QByteArray());
 }
 
-bool HttpResponseParser::step() {
+bool HttpResponseParser::step()
+{
     const qsizetype available = m_input.size() - m_pos;
     QByteArrayView line;
     switch (m_state) {
@@ -147,7 +158,8 @@ bool HttpResponseParser::step() {
     return false;
 }
 
-bool HttpResponseParser::nextLine(QByteArrayView& line) {
+bool HttpResponseParser::nextLine(QByteArrayView& line)
+{
     const qsizetype end = m_input.indexOf('\n', m_pos);
     if (end < 0)
         return false;
@@ -158,7 +170,8 @@ bool HttpResponseParser::nextLine(QByteArrayView& line) {
     return true;
 }
 
-bool HttpResponseParser::parseHeadLine(QByteArrayView line) {
+bool HttpResponseParser::parseHeadLine(QByteArrayView line)
+{
     if (!m_statusSeen)
         return line.isEmpty() ? true : parseStatusLine(line);
     if (line.isEmpty())
@@ -179,7 +192,8 @@ bool HttpResponseParser::parseHeadLine(QByteArrayView line) {
     return true;
 }
 
-bool HttpResponseParser::parseStatusLine(QByteArrayView line) {
+bool HttpResponseParser::parseStatusLine(QByteArrayView line)
+{
     // "HTTP/1.1 200 OK": the reason phrase may be empty or missing altogether.
     if (line.size() < 12 || !line.startsWith("HTTP/1.") || !isDigit(line[7]) || line[8] != ' ')
         return fail();
@@ -195,7 +209,8 @@ bool HttpResponseParser::parseStatusLine(QByteArrayView line) {
     return true;
 }
 
-bool HttpResponseParser::endHead() {
+bool HttpResponseParser::endHead()
+{
     const int status = m_head.status;
     if (status < 200) {
         // 101 would hand the connection to another protocol, which no request of ours asks for.
@@ -240,7 +255,8 @@ bool HttpResponseParser::endHead() {
     return true;
 }
 
-bool HttpResponseParser::fail() {
+bool HttpResponseParser::fail()
+{
     m_state = State::Failed;
     return false;
 }

@@ -10,9 +10,12 @@ namespace vl {
 
 HttpSession::HttpSession(QObject* parent)
     : QNetworkAccessManager(parent)
-    , m_pool(new HttpConnectionPool(this)) {}
+    , m_pool(new HttpConnectionPool(this))
+{
+}
 
-HttpSession::~HttpSession() {
+HttpSession::~HttpSession()
+{
     // Replies hand their connections back to the pool and their answers to the cache as they
     // go, so they go first.
     const QList<HttpReply*> replies = findChildren<HttpReply*>(Qt::FindDirectChildrenOnly);
@@ -21,7 +24,8 @@ HttpSession::~HttpSession() {
 }
 
 QNetworkReply* HttpSession::createRequest(Operation operation, const QNetworkRequest& request,
-                                          QIODevice* outgoingData) {
+                                          QIODevice* outgoingData)
+{
     const QString scheme = request.url().scheme().toLower();
     if (scheme != QLatin1String("http") && scheme != QLatin1String("https"))
         return QNetworkAccessManager::createRequest(operation, request, outgoingData);
