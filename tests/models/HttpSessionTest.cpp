@@ -7,6 +7,7 @@
 #include <QCoroTask>
 #include <QElapsedTimer>
 #include <QHash>
+#include <QLocale>
 #include <QNetworkCookie>
 #include <QNetworkCookieJar>
 #include <QNetworkDiskCache>
@@ -649,6 +650,28 @@ TEST_F(HttpSessionCacheTest, AFreshAnswerIsServedWithoutTheNetwork)
         session.post(QNetworkRequest(server.url(QStringLiteral("/config"))), QByteArray("{}"))));
     EXPECT_EQ(fetch(QStringLiteral("/config"))->readAll(), "third");
     EXPECT_EQ(server.requests.size(), 4);
+}
+
+TEST_F(HttpSessionCacheTest, FreshnessCountsFromTheAnswersDate)
+{
+    const auto httpDate = [](qint64 secondsFromNow) {
+        return QLocale::c()
+            .toString(QDateTime::currentDateTimeUtc().addSecs(secondsFromNow),
+                      QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"))
+            .toLatin1();
+    };
+    // Ten minutes old with a minute to live: already stale when it arrives.
+    server.script(
+        Answer::with(ok("aged", "Date: " + httpDate(-600) + "\r\nCache-Control: max-age=60\r\n")));
+    server.script(Answer::with(ok("aged")));
+    // Expires an hour after its Date: fresh.
+    server.script(Answer::with(
+        ok("dated", "Date: " + httpDate(-600) + "\r\nExpires: " + httpDate(3000) + "\r\n")));
+    fetch(QStringLiteral("/aged"));
+    EXPECT_FALSE(fromCache(fetch(QStringLiteral("/aged"))));
+    fetch(QStringLiteral("/dated"));
+    EXPECT_TRUE(fromCache(fetch(QStringLiteral("/dated"))));
+    EXPECT_EQ(server.requests.size(), 3);
 }
 
 TEST_F(HttpSessionCacheTest, AStaleAnswerIsRevalidated)
