@@ -25,7 +25,9 @@ Sandbox::Sandbox(SandboxOptions options)
 bool Sandbox::start() {
     if (!m_store.open(m_options.database))
         return false;
-    if (m_store.needsSeed())
+    if (m_store.seededAt())
+        ListingSeed::keepCurrent(m_store, m_clock);
+    else
         seed();
     installRoutes();
     const quint16 port = m_server.start(m_options.port);
@@ -44,7 +46,7 @@ void Sandbox::seed() {
     m_store.begin();
     ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
     SeekerSeed::write(m_store, m_clock);
-    m_store.markSeeded();
+    m_store.markSeeded(m_clock.now());
     m_store.commit();
 }
 

@@ -27,7 +27,7 @@ class Generator {
 public:
     QList<ListingDraft> run() {
         for (const Company& company : Company::all()) {
-            const int vacancies = company.hasAccount() ? 14 : 10;
+            const int vacancies = company.hasAccount() ? 14 : 11;
             for (int i = 0; i < vacancies; ++i)
                 add(company, company.vacancyRoles[i % company.vacancyRoles.size()],
                     channelFor(company, 0.95));
@@ -73,6 +73,8 @@ private:
             d.role->category != QLatin1String("it"))
             city = company.cities.constFirst();
         d.city = Taxonomy::find(Taxonomy::cities(), city);
+        if (!d.city)
+            return;
         d.type = chance(0.7) ? d.role->types.constFirst() : pick(d.role->types);
         d.privatePerson = channel == Channel::Contact;
         d.aggregated = channel == Channel::Mirrored;
@@ -265,9 +267,9 @@ void write(Store& store, const Clock& clock, const QHash<QString, qint64>& emplo
         "salary_min, salary_max, pay_type, pay_rank, featured, aggregated, direct, published_at, "
         "bumped_at, gig_date, gig_hours, views, deadline, lang, apply_url, can_apply, "
         "can_enquire, deliver_to, apply_on_web, contact_channels, no_experience, english, form, "
-        "status, search) "
+        "status, search, seeded) "
         "VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
-        "?, ?, ?, ?)"));
+        "?, ?, ?, ?, 1)"));
     QSqlQuery text = store.prepare(QStringLiteral(
         "INSERT INTO listing_texts(ref, lang, title, description, machine) VALUES(?, ?, ?, ?, ?)"));
     int number = 30001;
@@ -331,6 +333,28 @@ void write(Store& store, const Clock& clock, const QHash<QString, qint64>& emplo
         for (const QString& lang : langs)
             Store::run(text, {ref, lang, title.in(lang), description.in(lang), lang != d.lang});
     }
+}
+
+void keepCurrent(Store& store, const Clock& clock) {
+    const auto seeded = store.seededAt();
+    if (!seeded)
+        return;
+    const auto dayOf = [](qint64 t) {
+        const qint64 local = t + Clock::zoneOffset;
+        return (local - ((local % Clock::day) + Clock::day) % Clock::day) / Clock::day;
+    };
+    const qint64 days = dayOf(clock.now()) - dayOf(*seeded);
+    if (days == 0)
+        return;
+    const qint64 shift = days * Clock::day;
+    const QString dateShift = QStringLiteral("%1%2 days").arg(days > 0 ? "+" : "").arg(days);
+    store.begin();
+    store.exec(QStringLiteral("UPDATE listings SET published_at = MIN(published_at + ?, ?), "
+                              "bumped_at = MIN(bumped_at + ?, ?), gig_date = date(gig_date, ?), "
+                              "deadline = date(deadline, ?) WHERE seeded = 1"),
+               {shift, clock.now(), shift, clock.now(), dateShift, dateShift});
+    store.markSeeded(*seeded + shift);
+    store.commit();
 }
 
 } // namespace vl::ListingSeed
