@@ -28,7 +28,9 @@ bool Sandbox::start()
 {
     if (!m_store.open(m_options.database))
         return false;
-    if (m_store.needsSeed())
+    if (m_store.seededAt())
+        ListingSeed::keepCurrent(m_store, m_clock);
+    else
         seed();
     installRoutes();
     const quint16 port = m_server.start(m_options.port);
@@ -48,7 +50,7 @@ void Sandbox::seed()
     m_store.begin();
     ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
     SeekerSeed::write(m_store, m_clock);
-    m_store.markSeeded();
+    m_store.markSeeded(m_clock.now());
     m_store.commit();
 }
 

@@ -73,7 +73,8 @@ QStringList statements()
             english INTEGER NOT NULL DEFAULT 0,
             form TEXT,
             status TEXT NOT NULL DEFAULT 'live',
-            search TEXT NOT NULL DEFAULT ''))"),
+            search TEXT NOT NULL DEFAULT '',
+            seeded INTEGER NOT NULL DEFAULT 0))"),
         QStringLiteral("CREATE INDEX IF NOT EXISTS listings_by_board "
                        "ON listings(kind, status, published_at)"),
         // One row per language a listing can be read in; `machine` marks a translation.

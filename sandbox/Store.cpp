@@ -50,14 +50,13 @@ bool Store::createSchema()
     return true;
 }
 
-bool Store::needsSeed() const
-{
-    return !scalar(QStringLiteral("SELECT value FROM meta WHERE key = 'seeded'")).isValid();
+std::optional<qint64> Store::seededAt() const {
+    const QVariant at = scalar(QStringLiteral("SELECT value FROM meta WHERE key = 'seeded'"));
+    return at.isValid() ? std::optional(at.toLongLong()) : std::nullopt;
 }
 
-void Store::markSeeded()
-{
-    exec(QStringLiteral("INSERT OR REPLACE INTO meta(key, value) VALUES('seeded', '1')"));
+void Store::markSeeded(qint64 at) {
+    exec(QStringLiteral("INSERT OR REPLACE INTO meta(key, value) VALUES('seeded', ?)"), {at});
 }
 
 QSqlQuery Store::prepare(const QString& sql) const

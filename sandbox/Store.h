@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
+#include <optional>
 
 namespace vl {
 
@@ -19,9 +20,9 @@ public:
     Store& operator=(const Store&) = delete;
 
     bool open(const QString& path);
-    // True until the seed has been written once.
-    bool needsSeed() const;
-    void markSeeded();
+    // When the seed was written, in the sandbox clock's seconds; nothing before it was.
+    std::optional<qint64> seededAt() const;
+    void markSeeded(qint64 at);
 
     QSqlQuery prepare(const QString& sql) const;
     // Binds the values in order and executes; for a query prepared once and run many times.

@@ -18,8 +18,8 @@ public:
     SeekerAccounts(Store& store, const Clock& clock);
 
     std::optional<qint64> byEmail(const QString& email) const;
-    // A new account at the address's first verified sign-in; it must add a second factor.
-    qint64 create(const QString& email);
+    // The account of an address, made at its first verified sign-in; a new account must add
+    // a second factor.
     qint64 findOrCreate(const QString& email);
     QString emailOf(qint64 id) const;
     // Empty when the account has no authenticator.
@@ -35,6 +35,7 @@ public:
     bool redeemRecovery(qint64 id, const QString& code);
 
 private:
+    qint64 create(const QString& email);
     static QString normalise(const QString& code);
 
     Store& m_store;

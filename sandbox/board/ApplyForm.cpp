@@ -122,8 +122,7 @@ bool exists(const QString& key)
     return find(key) != nullptr;
 }
 
-QJsonObject spec(const QString& key, const QString& lang)
-{
+QJsonObject toJson(const QString& key, const QString& lang) {
     const Form* form = find(key);
     if (!form)
         return {};

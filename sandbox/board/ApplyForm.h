@@ -10,7 +10,7 @@ namespace ApplyForm {
 
 bool exists(const QString& key);
 // FormSpecDTO
-QJsonObject spec(const QString& key, const QString& lang);
+QJsonObject toJson(const QString& key, const QString& lang);
 
 } // namespace ApplyForm
 

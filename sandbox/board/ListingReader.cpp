@@ -167,7 +167,7 @@ std::optional<QJsonObject> ListingReader::detail(const QString& ref, const QStri
     out.insert(QStringLiteral("applyOnWeb"), row.value(29).toBool() || (hasForm && !forms));
     putOptional(out, QStringLiteral("contactChannels"), row.value(30), true);
     if (hasForm && forms)
-        out.insert(QStringLiteral("form"), ApplyForm::spec(form, normalizeLocale(lang)));
+        out.insert(QStringLiteral("form"), ApplyForm::toJson(form, normalizeLocale(lang)));
     return out;
 }
 

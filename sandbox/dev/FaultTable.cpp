@@ -6,9 +6,17 @@ namespace vl {
 
 namespace {
 
-const QByteArray errorPage = "<!DOCTYPE html>\n<html><head><title>502 Bad Gateway</title></head>"
-                             "<body><h1>Bad Gateway</h1><p>The upstream server did not answer."
-                             "</p></body></html>\n";
+// What a proxy or a maintenance switch puts in front of the service instead of JSON.
+const QByteArray maintenancePage =
+    "<!DOCTYPE html>\n<html><head><title>Velmora</title></head><body><h1>We'll be right "
+    "back</h1><p>The service is being updated. Please try again in a few minutes.</p></body>"
+    "</html>\n";
+
+QByteArray errorPage(int status) {
+    return "<!DOCTYPE html>\n<html><head><title>Error " + QByteArray::number(status) +
+           "</title></head><body><h1>Error " + QByteArray::number(status) +
+           "</h1><p>The server could not answer this request.</p></body></html>\n";
+}
 
 } // namespace
 
@@ -18,7 +26,7 @@ Reply Fault::reply() const
     case Mode::Drop:
         return Reply::dropped();
     case Mode::Html:
-        return Reply::html(errorPage);
+        return Reply::html(maintenancePage);
     case Mode::Status:
         if (body == QLatin1String("envelope"))
             return Reply::json(
@@ -27,11 +35,11 @@ Reply Fault::reply() const
                 status);
         if (body == QLatin1String("ok"))
             return Reply::json({{QStringLiteral("ok"), true}}, status);
-        return Reply::html(errorPage, status);
+        return Reply::html(errorPage(status), status);
     case Mode::Slow:
         break;
     }
-    return Reply::html(errorPage, 500);
+    return Reply::html(errorPage(500), 500);
 }
 
 QString FaultTable::key(const QByteArray& method, const QString& path)

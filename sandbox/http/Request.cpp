@@ -18,13 +18,7 @@ QString Request::queryValue(const QString& key) const
     return query.queryItemValue(key, QUrl::FullyDecoded);
 }
 
-bool Request::hasQuery(const QString& key) const
-{
-    return query.hasQueryItem(key);
-}
-
-QJsonObject Request::json() const
-{
+QJsonObject Request::json() const {
     return QJsonDocument::fromJson(body).object();
 }
 

@@ -28,7 +28,6 @@ struct Request {
     QByteArray header(QByteArrayView name) const;
     // A query item, percent-decoded; empty when absent.
     QString queryValue(const QString& key) const;
-    bool hasQuery(const QString& key) const;
     // The body as a JSON object; empty when the body is not one.
     QJsonObject json() const;
     // The token of an "Authorization: Bearer ..." header; empty when there is none.

@@ -14,6 +14,10 @@ namespace ListingSeed {
 
 void write(Store& store, const Clock& clock, const QHash<QString, qint64>& employers);
 
+// Moves the seeded listings' dates by the whole days that passed since they were seeded, so
+// that a sandbox kept in a file still shows a board of today, yesterday and this week.
+void keepCurrent(Store& store, const Clock& clock);
+
 } // namespace ListingSeed
 
 } // namespace vl
