@@ -50,12 +50,14 @@ bool Store::createSchema()
     return true;
 }
 
-std::optional<qint64> Store::seededAt() const {
+std::optional<qint64> Store::seededAt() const
+{
     const QVariant at = scalar(QStringLiteral("SELECT value FROM meta WHERE key = 'seeded'"));
     return at.isValid() ? std::optional(at.toLongLong()) : std::nullopt;
 }
 
-void Store::markSeeded(qint64 at) {
+void Store::markSeeded(qint64 at)
+{
     exec(QStringLiteral("INSERT OR REPLACE INTO meta(key, value) VALUES('seeded', ?)"), {at});
 }
 

@@ -122,7 +122,8 @@ bool exists(const QString& key)
     return find(key) != nullptr;
 }
 
-QJsonObject toJson(const QString& key, const QString& lang) {
+QJsonObject toJson(const QString& key, const QString& lang)
+{
     const Form* form = find(key);
     if (!form)
         return {};

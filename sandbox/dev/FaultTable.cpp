@@ -12,7 +12,8 @@ const QByteArray maintenancePage =
     "back</h1><p>The service is being updated. Please try again in a few minutes.</p></body>"
     "</html>\n";
 
-QByteArray errorPage(int status) {
+QByteArray errorPage(int status)
+{
     return "<!DOCTYPE html>\n<html><head><title>Error " + QByteArray::number(status) +
            "</title></head><body><h1>Error " + QByteArray::number(status) +
            "</h1><p>The server could not answer this request.</p></body></html>\n";

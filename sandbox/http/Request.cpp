@@ -18,7 +18,8 @@ QString Request::queryValue(const QString& key) const
     return query.queryItemValue(key, QUrl::FullyDecoded);
 }
 
-QJsonObject Request::json() const {
+QJsonObject Request::json() const
+{
     return QJsonDocument::fromJson(body).object();
 }
 

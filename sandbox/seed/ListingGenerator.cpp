@@ -18,7 +18,8 @@ enum class Channel { Direct, Mailed, Mirrored, Contact };
 
 class Generator {
 public:
-    QList<ListingDraft> run() {
+    QList<ListingDraft> run()
+    {
         for (const Company& company : Company::all()) {
             const int vacancies = company.hasAccount() ? 14 : 11;
             for (int i = 0; i < vacancies; ++i)
@@ -39,7 +40,8 @@ public:
     }
 
 private:
-    Channel channelFor(const Company& company, double mirrored) {
+    Channel channelFor(const Company& company, double mirrored)
+    {
         if (company.key == QLatin1String("gza-logistics"))
             return Channel::Mailed;
         if (company.hasAccount())
@@ -50,11 +52,13 @@ private:
     bool chance(double p) { return m_rng.generateDouble() < p; }
     int between(int low, int high) { return low + int(m_rng.bounded(high - low + 1)); }
     template <typename T>
-    const T& pick(const QList<T>& list) {
+    const T& pick(const QList<T>& list)
+    {
         return list[qsizetype(m_rng.bounded(int(list.size())))];
     }
 
-    void add(const Company& company, const QString& roleKey, Channel channel) {
+    void add(const Company& company, const QString& roleKey, Channel channel)
+    {
         ListingDraft d;
         d.role = Role::find(roleKey);
         if (!d.role)
@@ -100,7 +104,8 @@ private:
     // Mirrored listings and gigs stream in every day; vacancies posted here are fewer and
     // steadier, so that the week's pinned ones head the board without filling it. Gigs are
     // short-lived and none is older than three weeks.
-    void pickDate(ListingDraft& d) {
+    void pickDate(ListingDraft& d)
+    {
         const bool gig = d.role->kind == QLatin1String("gig");
         const bool steady = !d.aggregated && !gig;
         const double r = m_rng.generateDouble();
@@ -114,7 +119,8 @@ private:
         d.dayFraction = m_rng.generateDouble();
     }
 
-    void pickPay(ListingDraft& d, double withPay) {
+    void pickPay(ListingDraft& d, double withPay)
+    {
         if (!chance(withPay))
             return;
         const Role& r = *d.role;
@@ -141,7 +147,8 @@ private:
         }
     }
 
-    void pickLanguage(ListingDraft& d) {
+    void pickLanguage(ListingDraft& d)
+    {
         d.lang = d.company->locale;
         if (!d.company->hasAccount() && !d.privatePerson && chance(0.3))
             d.lang = pick(
@@ -151,7 +158,8 @@ private:
         d.translations = !d.aggregated || chance(0.75);
     }
 
-    QList<ListingDraft*> of(const QString& company, const QString& kind) {
+    QList<ListingDraft*> of(const QString& company, const QString& kind)
+    {
         QList<ListingDraft*> out;
         for (ListingDraft& d : m_drafts) {
             if (d.company->key == company && d.role->kind == kind)
@@ -162,7 +170,8 @@ private:
 
     // The accounts' own desks: listings waiting for review, closed ones, a draft, employers'
     // forms, and listings whose questions or contacts open on the website.
-    void settleAccounts() {
+    void settleAccounts()
+    {
         const QString vacancy = QStringLiteral("vacancy");
         auto kalata = of(QStringLiteral("kalata"), vacancy);
         kalata[12]->status = QStringLiteral("pending");
@@ -187,7 +196,8 @@ private:
     }
 
     // Paid placements go to recent listings of the employers on a paid plan.
-    void feature() {
+    void feature()
+    {
         const QStringList paying{QStringLiteral("tonis-puri"), QStringLiteral("batumi-bay"),
                                  QStringLiteral("mzianeti")};
         int vacancies = 0;
@@ -206,7 +216,8 @@ private:
     }
 
     // A few older listings were bumped today or yesterday and stand with the new ones.
-    void bump() {
+    void bump()
+    {
         int bumped = 0;
         for (ListingDraft& d : m_drafts) {
             if (bumped == 8 || d.aggregated || d.daysAgo < 3 || d.daysAgo > 20 || d.featured ||
@@ -224,7 +235,8 @@ private:
 
 } // namespace
 
-QList<ListingDraft> drafts() {
+QList<ListingDraft> drafts()
+{
     return Generator().run();
 }
 

@@ -18,7 +18,8 @@ namespace {
 
 constexpr qint64 hour = 3600;
 
-qint64 instant(const Clock& clock, int daysAgo, double fraction) {
+qint64 instant(const Clock& clock, int daysAgo, double fraction)
+{
     if (daysAgo == 0)
         return clock.dayStart(0) + qint64(fraction * double(clock.now() - clock.dayStart(0)));
     return clock.dayStart(daysAgo) + 8 * hour + qint64(fraction * 12 * hour);
@@ -49,7 +50,8 @@ QVariant orNull(const QString& value)
 
 } // namespace
 
-void write(Store& store, const Clock& clock, const QHash<QString, qint64>& employers) {
+void write(Store& store, const Clock& clock, const QHash<QString, qint64>& employers)
+{
     QList<ListingDraft> drafts = ListingGenerator::drafts();
     std::stable_sort(drafts.begin(), drafts.end(), [](const auto& a, const auto& b) {
         return a.daysAgo != b.daysAgo ? a.daysAgo > b.daysAgo : a.dayFraction < b.dayFraction;
@@ -127,7 +129,8 @@ void write(Store& store, const Clock& clock, const QHash<QString, qint64>& emplo
     }
 }
 
-void keepCurrent(Store& store, const Clock& clock) {
+void keepCurrent(Store& store, const Clock& clock)
+{
     const auto seeded = store.seededAt();
     if (!seeded)
         return;
