@@ -1,3 +1,4 @@
+#include "app/platform/KeychainSecretStore.h"
 #include "app/shell/BuildNumber.h"
 #include "core/session/UpdateGate.h"
 #include "tests/support/TestContext.h"
@@ -174,4 +175,24 @@ TEST(Session, AdoptionIsOfferedOnlyToAFreshJobSeekerSide)
     EXPECT_FALSE(context->candidate.email());
     const auto refused = wait(context->candidate.adopt(std::nullopt));
     EXPECT_EQ(refused.error(), APIError::server(QStringLiteral("auth")));
+}
+
+TEST(SecretStore, WithoutASecretServiceEveryCallFailsSilentlyAndTheSessionLastsTheRun)
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/velmora-test-bus");
+    MemoryPreferences preferences;
+    KeychainSecretStore store(preferences);
+    wait(store.set(QStringLiteral("tok"), QStringLiteral("session")));
+    EXPECT_EQ(wait(store.get(QStringLiteral("session"))), std::nullopt);
+    wait(store.softSet(QStringLiteral("kept"), QStringLiteral("support-key")));
+    EXPECT_EQ(wait(store.softGet(QStringLiteral("support-key"))), QStringLiteral("kept"));
+
+    PlatformBindings platform;
+    platform.preferences = std::make_unique<MemoryPreferences>();
+    platform.secrets = std::make_unique<KeychainSecretStore>(*platform.preferences);
+    platform.session = std::make_unique<QNetworkAccessManager>();
+    platform.site = deadSite;
+    AppContext context(std::move(platform));
+    wait(context.auth.signedIn(QStringLiteral("tok")));
+    EXPECT_EQ(context.auth.token(), QStringLiteral("tok"));
 }
