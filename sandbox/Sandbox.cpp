@@ -1,7 +1,9 @@
 #include "sandbox/Sandbox.h"
 
+#include "sandbox/routes/AuthRoutes.h"
 #include "sandbox/routes/ConfigRoutes.h"
 #include "sandbox/routes/DevRoutes.h"
+#include "sandbox/seed/EmployerSeed.h"
 
 #include <QTextStream>
 
@@ -34,6 +36,7 @@ bool Sandbox::start() {
 
 void Sandbox::seed() {
     m_store.begin();
+    EmployerSeed::write(m_store, m_clock);
     m_store.markSeeded();
     m_store.commit();
 }
@@ -41,6 +44,7 @@ void Sandbox::seed() {
 void Sandbox::installRoutes() {
     DevRoutes::install(m_router, m_context);
     ConfigRoutes::install(m_router, m_context);
+    AuthRoutes::install(m_router, m_context);
 }
 
 } // namespace vl

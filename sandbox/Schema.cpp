@@ -9,6 +9,7 @@ QStringList statements() {
         // listings mirrored from elsewhere. Localised names override `name` where given.
         QStringLiteral(R"(CREATE TABLE IF NOT EXISTS employers(
             id INTEGER PRIMARY KEY,
+            key TEXT UNIQUE,
             email TEXT UNIQUE COLLATE NOCASE,
             name TEXT NOT NULL,
             name_ka TEXT, name_en TEXT, name_ru TEXT,
@@ -34,6 +35,7 @@ QStringList statements() {
             email TEXT NOT NULL COLLATE NOCASE,
             code TEXT NOT NULL,
             expires_at INTEGER NOT NULL,
+            locale TEXT NOT NULL DEFAULT 'ka',
             used INTEGER NOT NULL DEFAULT 0))"),
         QStringLiteral(R"(CREATE TABLE IF NOT EXISTS attempts(
             scope TEXT NOT NULL,
