@@ -5,7 +5,7 @@
 #include "app/shell/AppState.h"
 #include "core/l10n/L10n.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -52,17 +52,20 @@ AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* p
     m_signOut->setObjectName(QStringLiteral("vl.account.signOut"));
     Theme::setRole(m_signOut, "link");
 
-    auto* who = new QGridLayout;
-    who->setHorizontalSpacing(10);
-    who->setVerticalSpacing(0);
-    who->addWidget(m_avatar, 0, 0, 2, 1);
-    who->addWidget(m_name, 0, 1);
-    who->addWidget(m_role, 1, 1);
-    who->setColumnStretch(1, 1);
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(2);
+    lines->addWidget(m_name);
+    lines->addWidget(m_role);
+    auto* who = new QHBoxLayout;
+    who->setSpacing(10);
+    who->addWidget(m_avatar, 0, Qt::AlignVCenter);
+    who->addLayout(lines, 1);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 16);
     layout->setSpacing(10);
+    // Any height the sidebar gives beyond the wrapped lines' need goes above them, not between.
+    layout->addStretch(1);
     layout->addLayout(who);
     layout->addWidget(m_signIn);
     layout->addWidget(m_signOut, 0, Qt::AlignLeft);

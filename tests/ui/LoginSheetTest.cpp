@@ -88,8 +88,9 @@ TEST_F(SignIn, AnAddressWithoutADotIsRefusedHereAndNothingIsSent)
     for (QPushButton* each : sheet->findChildren<QPushButton*>())
         EXPECT_NE(each->text(), L10n::text(Key::empPasskeyLogin, Lang::en));
 
+    // Return in the field presses the stage's button.
     type("vl.loginSheet.email", QStringLiteral("nino@example"));
-    button("vl.loginSheet.sendCode")->click();
+    QTest::keyClick(field("vl.loginSheet.email"), Qt::Key_Return);
     ASSERT_TRUE(settles());
     EXPECT_TRUE(label("vl.loginSheet.error")->isVisible());
     EXPECT_EQ(label("vl.loginSheet.error")->text(),
@@ -165,7 +166,7 @@ TEST_F(SignIn, GoingBackKeepsTheAddressAndSigningOutAsksFirst)
     ASSERT_TRUE(settles());
     ASSERT_EQ(sheet->form().stage(), EmployerLoginForm::Stage::code);
     type("vl.loginSheet.code", QStringLiteral("12345"));
-    button("vl.loginSheet.verify")->click();
+    QTest::keyClick(field("vl.loginSheet.code"), Qt::Key_Return);
     EXPECT_EQ(label("vl.loginSheet.error")->text(), L10n::text(Key::errCode, Lang::en));
     button("vl.loginSheet.changeEmail")->click();
     EXPECT_EQ(sheet->form().stage(), EmployerLoginForm::Stage::email);
