@@ -10,7 +10,7 @@ packages=(
   qcoro-qt6-dev qtkeychain-qt6-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   dbus dbus-x11 gnome-keyring libsecret-tools
-  xvfb xauth x11-utils
+  xvfb xauth x11-utils imagemagick
   fonts-noto-core fonts-dejavu-core
 )
 

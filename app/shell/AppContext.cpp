@@ -16,6 +16,7 @@ AppContext::AppContext(PlatformBindings platform)
     , candidate(*m_platform.preferences, *m_platform.session, m_api.site())
     , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota})
     , taxonomy(m_api, m_platform.build)
+    , review(*m_platform.preferences)
 {
 }
 

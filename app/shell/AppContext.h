@@ -9,6 +9,7 @@
 #include "app/service/APIClient.h"
 #include "app/shell/AppState.h"
 #include "app/shell/AuthManager.h"
+#include "app/shell/ReviewAsk.h"
 #include "app/shell/Taxonomy.h"
 
 #include <QNetworkAccessManager>
@@ -64,6 +65,7 @@ public:
     CallCenter calls;
     AuthManager auth;
     Taxonomy taxonomy;
+    ReviewAsk review;
 };
 
 } // namespace vl

@@ -18,4 +18,9 @@ qint64 runningBuildNumber()
     return parseBuildNumber(QStringLiteral(VELMORA_BUILD_NUMBER));
 }
 
+bool prereleaseBuild()
+{
+    return VELMORA_PRERELEASE_BUILD != 0;
+}
+
 } // namespace vl

@@ -11,4 +11,7 @@ qint64 parseBuildNumber(const QString& text);
 // This client's own build number, set by the build.
 qint64 runningBuildNumber();
 
+// Whether this is a pre-release package, set by the build.
+bool prereleaseBuild();
+
 } // namespace vl

@@ -27,7 +27,13 @@ QCoro::Task<> Taxonomy::load()
     m_features = config->features;
     m_updateRequired = vl::updateRequired(*config, m_build, m_api.site());
     m_updateAvailable = vl::updateAvailable(*config, m_build);
+    m_updatePage = vl::updatePage(*config, m_api.site());
     Q_EMIT changed();
+}
+
+QString Taxonomy::updatePage() const
+{
+    return m_updatePage.isEmpty() ? m_api.site() : m_updatePage;
 }
 
 } // namespace vl

@@ -28,6 +28,8 @@ public:
     const std::optional<ConfigPayload::Features>& features() const { return m_features; }
     const std::optional<UpdateRequired>& updateRequired() const { return m_updateRequired; }
     const std::optional<UpdateAvailable>& updateAvailable() const { return m_updateAvailable; }
+    // Where "check for updates" leads; the site until config has answered.
+    QString updatePage() const;
 
 Q_SIGNALS:
     void changed();
@@ -41,6 +43,7 @@ private:
     std::optional<ConfigPayload::Features> m_features;
     std::optional<UpdateRequired> m_updateRequired;
     std::optional<UpdateAvailable> m_updateAvailable;
+    QString m_updatePage;
 };
 
 } // namespace vl

@@ -16,9 +16,13 @@ std::optional<UpdateRequired> updateRequired(const ConfigPayload& config, qint64
 {
     if (!config.minBuild || *config.minBuild < 1 || build >= *config.minBuild)
         return std::nullopt;
-    const QString store =
-        nonEmpty(config.updateUrl).value_or(nonEmpty(config.storeUrl).value_or(site));
+    const QString store = updatePage(config, site);
     return UpdateRequired{store, nonEmpty(config.testflightUrl).value_or(store)};
+}
+
+QString gateUrl(const UpdateRequired& gate, bool prerelease)
+{
+    return prerelease ? gate.testflightUrl : gate.storeUrl;
 }
 
 std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint64 build)
@@ -29,6 +33,11 @@ std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint
     if (!url)
         return std::nullopt;
     return UpdateAvailable{*config.latestBuild, *url};
+}
+
+QString updatePage(const ConfigPayload& config, const QString& site)
+{
+    return nonEmpty(config.updateUrl).value_or(nonEmpty(config.storeUrl).value_or(site));
 }
 
 } // namespace vl

@@ -24,7 +24,15 @@ struct UpdateAvailable {
 std::optional<UpdateRequired> updateRequired(const ConfigPayload& config, qint64 build,
                                              const QString& site);
 
+// Where a build held at the gate goes: the pre-release channel for a pre-release build, the
+// store otherwise.
+QString gateUrl(const UpdateRequired& gate, bool prerelease);
+
 // Offered when latestBuild is above this build and there is somewhere to get it.
 std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint64 build);
+
+// Where a person who asks to check for updates is sent: the first non-empty of updateUrl,
+// storeUrl and the site.
+QString updatePage(const ConfigPayload& config, const QString& site);
 
 } // namespace vl

@@ -1,0 +1,21 @@
+#pragma once
+
+class QApplication;
+class QWidget;
+
+namespace vl {
+
+// The client's one look: a light palette with a calm teal accent, one type scale and the style
+// sheet every screen shares. A widget takes part through a role, so no screen carries colours of
+// its own.
+class Theme {
+public:
+    // Sets the style, the palette, the font (with Georgian glyphs) and the shared style sheet.
+    static void apply(QApplication& app);
+    // Gives a widget one of the sheet's roles: "sidebar", "account", "brand", "display", "title",
+    // "subtitle", "caption", "name", "avatar", "error", "banner", "card", "primary", "link",
+    // "quiet", "dismiss", "sections", "busy".
+    static void setRole(QWidget* widget, const char* role);
+};
+
+} // namespace vl

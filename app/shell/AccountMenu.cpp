@@ -1,0 +1,127 @@
+#include "app/shell/AccountMenu.h"
+
+#include "app/kit/Theme.h"
+#include "app/shell/AccountMenuModel.h"
+#include "app/shell/AppState.h"
+#include "core/l10n/L10n.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vl {
+
+namespace {
+
+// The first letter or digit of a name: company names often open with a quotation mark.
+QString initial(const QString& name)
+{
+    for (const QChar c : name) {
+        if (c.isLetterOrNumber())
+            return QString(c).toUpper();
+    }
+    return QStringLiteral("·");
+}
+
+} // namespace
+
+AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* parent)
+    : QFrame(parent)
+    , m_model(model)
+    , m_appState(appState)
+    , m_avatar(new QLabel(this))
+    , m_name(new QLabel(this))
+    , m_role(new QLabel(this))
+    , m_signIn(new QPushButton(this))
+    , m_signOut(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("vl.account"));
+    Theme::setRole(this, "account");
+    m_avatar->setObjectName(QStringLiteral("vl.account.avatar"));
+    m_avatar->setAlignment(Qt::AlignCenter);
+    Theme::setRole(m_avatar, "avatar");
+    m_name->setObjectName(QStringLiteral("vl.account.name"));
+    Theme::setRole(m_name, "name");
+    m_role->setObjectName(QStringLiteral("vl.account.role"));
+    Theme::setRole(m_role, "caption");
+    m_role->setWordWrap(true);
+    m_signIn->setObjectName(QStringLiteral("vl.account.signIn"));
+    Theme::setRole(m_signIn, "primary");
+    m_signOut->setObjectName(QStringLiteral("vl.account.signOut"));
+    Theme::setRole(m_signOut, "link");
+
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(2);
+    lines->addWidget(m_name);
+    lines->addWidget(m_role);
+    auto* who = new QHBoxLayout;
+    who->setSpacing(10);
+    who->addWidget(m_avatar, 0, Qt::AlignVCenter);
+    who->addLayout(lines, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 14, 16, 16);
+    layout->setSpacing(10);
+    // Any height the sidebar gives beyond the wrapped lines' need goes above them, not between.
+    layout->addStretch(1);
+    layout->addLayout(who);
+    layout->addWidget(m_signIn);
+    layout->addWidget(m_signOut, 0, Qt::AlignLeft);
+
+    connect(m_signIn, &QPushButton::clicked, this, &AccountMenu::signInRequested);
+    connect(m_signOut, &QPushButton::clicked, this, &AccountMenu::confirmSignOut);
+    connect(&m_model, &AccountMenuModel::changed, this, &AccountMenu::retext);
+    connect(&m_appState, &AppState::langChanged, this, &AccountMenu::retext);
+    retext();
+}
+
+void AccountMenu::retext()
+{
+    const Lang lang = m_appState.lang();
+    const bool signedOut = m_model.signedOut();
+    const QString name =
+        signedOut ? L10n::text(L10n::Key::macSignedOutTitle, lang) : m_model.name();
+    const auto role = m_model.role();
+    m_avatar->setVisible(!signedOut);
+    m_avatar->setText(initial(name));
+    m_name->setText(name);
+    m_name->setVisible(!name.isEmpty());
+    if (signedOut)
+        m_role->setText(L10n::text(L10n::Key::macSignedOutNote, lang));
+    else
+        m_role->setText(role ? L10n::text(*role, lang) : QString());
+    m_role->setVisible(signedOut || role.has_value());
+    m_signIn->setText(L10n::text(L10n::Key::signInTitle, lang));
+    m_signIn->setVisible(m_model.offersEmployerSignIn());
+    const auto signOut = m_model.employerSignOut();
+    m_signOut->setText(signOut ? L10n::text(*signOut, lang) : QString());
+    m_signOut->setVisible(signOut.has_value());
+}
+
+void AccountMenu::confirmSignOut()
+{
+    const Lang lang = m_appState.lang();
+    auto* ask =
+        new QMessageBox(QMessageBox::NoIcon, QString(), L10n::text(L10n::Key::signOutConfirm, lang),
+                        QMessageBox::NoButton, this);
+    ask->setObjectName(QStringLiteral("vl.account.signOutConfirm"));
+    ask->setAttribute(Qt::WA_DeleteOnClose);
+    ask->setWindowModality(Qt::WindowModal);
+    QPushButton* yes =
+        ask->addButton(L10n::text(L10n::Key::signOut, lang), QMessageBox::AcceptRole);
+    yes->setObjectName(QStringLiteral("vl.account.signOutConfirm.yes"));
+    Theme::setRole(yes, "primary");
+    QPushButton* no =
+        ask->addButton(L10n::text(L10n::Key::rateLater, lang), QMessageBox::RejectRole);
+    no->setObjectName(QStringLiteral("vl.account.signOutConfirm.no"));
+    ask->setDefaultButton(no);
+    connect(ask, &QMessageBox::buttonClicked, this, [this, yes](QAbstractButton* clicked) {
+        if (clicked == yes)
+            m_model.signOutEmployer();
+    });
+    ask->open();
+}
+
+} // namespace vl

@@ -1,0 +1,58 @@
+#include "app/shell/AccountMenuModel.h"
+
+#include "app/identity/CandidateAuth.h"
+#include "app/shell/AuthManager.h"
+
+namespace vl {
+
+AccountMenuModel::AccountMenuModel(AuthManager& auth, CandidateAuth& candidate, QObject* parent)
+    : QObject(parent)
+    , m_auth(auth)
+    , m_candidate(candidate)
+{
+    connect(&m_auth, &AuthManager::sessionChanged, this, &AccountMenuModel::changed);
+    connect(&m_auth, &AuthManager::meChanged, this, &AccountMenuModel::changed);
+    connect(&m_candidate, &CandidateAuth::changed, this, &AccountMenuModel::changed);
+}
+
+bool AccountMenuModel::signedOut() const
+{
+    return !m_auth.hiring() && !m_candidate.signedIn();
+}
+
+QString AccountMenuModel::name() const
+{
+    if (m_auth.me())
+        return m_auth.me()->employer.name;
+    return m_candidate.email().value_or(QString());
+}
+
+std::optional<L10n::Key> AccountMenuModel::role() const
+{
+    if (m_auth.hiring() && m_candidate.signedIn())
+        return L10n::Key::macAsBoth;
+    if (m_auth.hiring())
+        return L10n::Key::macAsEmployer;
+    if (m_candidate.signedIn())
+        return L10n::Key::macAsSeeker;
+    return std::nullopt;
+}
+
+bool AccountMenuModel::offersEmployerSignIn() const
+{
+    return !m_auth.hiring();
+}
+
+std::optional<L10n::Key> AccountMenuModel::employerSignOut() const
+{
+    if (!m_auth.hiring())
+        return std::nullopt;
+    return m_candidate.signedIn() ? L10n::Key::macSignOutEmployer : L10n::Key::signOut;
+}
+
+QCoro::Task<> AccountMenuModel::signOutEmployer()
+{
+    co_await m_auth.logOut();
+}
+
+} // namespace vl
