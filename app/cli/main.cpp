@@ -12,18 +12,19 @@ namespace {
 QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args)
 {
     using namespace vl::cli;
-    co_await context.start();
     const QString command = args.isEmpty() ? QString() : args.takeFirst();
+    if (command == QLatin1StringView("lang"))
+        co_return runLang(context, args);
+    if (command == QLatin1StringView("texts"))
+        co_return runTexts(args);
+    // The rest act with the stored identity.
+    co_await context.start();
     if (command == QLatin1StringView("api"))
         co_return co_await runApi(context, args);
     if (command == QLatin1StringView("boot"))
         co_return co_await runBoot(context);
-    if (command == QLatin1StringView("lang"))
-        co_return runLang(context, args);
     if (command == QLatin1StringView("employer"))
         co_return co_await runEmployer(context, args);
-    if (command == QLatin1StringView("texts"))
-        co_return runTexts(args);
     co_return printUsage(QStringLiteral("usage: velmora-cli api|boot|lang|employer|texts ..."));
 }
 

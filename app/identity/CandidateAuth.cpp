@@ -81,10 +81,12 @@ QCoro::Task<Result<QString>> CandidateAuth::adopt(std::optional<QString> employe
     QPointer self(this);
     const auto adopted = co_await postEnvelope<Adopted>(
         QStringLiteral("/api/app/v1/candidate/adopt"), "{}", employerToken);
-    if (!self || !adopted)
-        co_return adopted ? Result<QString>(adopted->email) : Result<QString>(adopted.error());
-    markAdopted();
-    completeSignIn(adopted->email);
+    if (!adopted)
+        co_return adopted.error();
+    if (self) {
+        markAdopted();
+        completeSignIn(adopted->email);
+    }
     co_return adopted->email;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/service/HttpExchange.h"
 #include "core/identity/CandidateReplies.h"
 
-#include <QCoroNetworkReply>
 #include <QCoroTask>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -76,14 +76,11 @@ QCoro::Task<Result<T>> CandidateAuth::postEnvelope(QString path, QByteArray body
     if (bearer)
         request.setRawHeader("Authorization", "Bearer " + bearer->toUtf8());
     QNetworkReply* reply = m_session.post(request, body);
-    connect(this, &QObject::destroyed, reply, &QNetworkReply::abort);
-    co_await reply;
-    reply->deleteLater();
-    const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    if (!status.isValid() || reply->error() == QNetworkReply::OperationCanceledError ||
-        reply->error() == QNetworkReply::TimeoutError)
+    cancelWithOwner(reply, this);
+    const HttpExchange got = co_await finish(reply);
+    if (!got.answered())
         co_return APIError::network();
-    co_return candidateReply::readEnvelope<T>(reply->readAll(), status.toInt());
+    co_return candidateReply::readEnvelope<T>(got.body, got.status);
 }
 
 } // namespace vl

@@ -8,10 +8,6 @@ namespace vl {
 
 namespace {
 
-struct ReplyDeleter {
-    void operator()(QNetworkReply* reply) const { reply->deleteLater(); }
-};
-
 bool tagged(APIClient::Shape shape)
 {
     using Shape = APIClient::Shape;
@@ -42,11 +38,15 @@ QUrl APIClient::url(const QString& path, const Query& query) const
                       ? QUrl(m_site + path)
                       : QUrl(m_base.toString() + QLatin1Char('/') + path);
     if (!query.empty()) {
-        QUrlQuery items;
-        for (const auto& [key, value] : query)
-            items.addQueryItem(key,
-                               QString(value).replace(QLatin1Char('+'), QStringLiteral("%2B")));
-        result.setQuery(items);
+        // Each key and value is percent-encoded whole, so "+", "&" and "=" inside a search
+        // arrive as typed.
+        QByteArray text;
+        for (const auto& [key, value] : query) {
+            if (!text.isEmpty())
+                text += '&';
+            text += QUrl::toPercentEncoding(key) + '=' + QUrl::toPercentEncoding(value);
+        }
+        result.setQuery(QString::fromLatin1(text), QUrl::StrictMode);
     }
     Q_ASSERT(result.isValid());
     return result;
@@ -96,37 +96,13 @@ QNetworkReply* APIClient::send(const Request& request, QObject* owner) const
         reply = m_session->deleteResource(built);
         break;
     }
-    if (owner)
-        QObject::connect(owner, &QObject::destroyed, reply, &QNetworkReply::abort);
+    cancelWithOwner(reply, owner);
     return reply;
 }
 
-QCoro::Task<APIClient::Exchange> APIClient::exchange(Request request, QObject* owner) const
+QCoro::Task<HttpExchange> APIClient::exchange(Request request, QObject* owner) const
 {
-    std::unique_ptr<QNetworkReply, ReplyDeleter> reply(send(request, owner));
-    co_await reply.get();
-    const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    if (!status.isValid())
-        co_return Exchange{};
-    switch (reply->error()) {
-    case QNetworkReply::OperationCanceledError:
-    case QNetworkReply::TimeoutError:
-    case QNetworkReply::RemoteHostClosedError:
-        co_return Exchange{};
-    default:
-        break;
-    }
-    co_return Exchange{status.toInt(), reply->readAll()};
-}
-
-QCoro::Task<Result<QByteArray>> APIClient::bytes(Request request, QObject* owner) const
-{
-    auto [status, body] = co_await exchange(std::move(request), owner);
-    if (status < 0)
-        co_return APIError::network();
-    if (status < 200 || status > 299)
-        co_return APIError::http(status);
-    co_return std::move(body);
+    return finish(send(request, owner));
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/service/HttpExchange.h"
 #include "core/discovery/BoardSummary.h"
 #include "core/discovery/JobDetail.h"
 #include "core/discovery/JobSummary.h"
@@ -13,7 +14,6 @@
 #include <QNetworkReply>
 #include <QPointer>
 #include <QUrl>
-#include <QUrlQuery>
 #include <functional>
 #include <map>
 #include <memory>
@@ -64,34 +64,31 @@ public:
     template <class T>
     QCoro::Task<Result<T>> call(Request request, QObject* owner) const
     {
-        const auto [status, body] = co_await exchange(std::move(request), owner);
-        if (status < 0)
+        const auto got = co_await exchange(std::move(request), owner);
+        if (!got.answered())
             co_return APIError::network();
-        co_return answer::read<T>(body, status);
+        co_return answer::read<T>(got.body, got.status);
     }
 
     // An enveloped list call: the rows and their paging.
     template <class T>
     QCoro::Task<Result<Page<T>>> list(Request request, QObject* owner) const
     {
-        const auto [status, body] = co_await exchange(std::move(request), owner);
-        if (status < 0)
+        const auto got = co_await exchange(std::move(request), owner);
+        if (!got.answered())
             co_return APIError::network();
-        co_return answer::readPage<T>(body, status);
+        co_return answer::readPage<T>(got.body, got.status);
     }
 
     // A chat send, read tolerantly: refusals carry the service's words.
     template <class T>
     QCoro::Task<Result<answer::ChatSendResult<T>>> chatSend(Request request, QObject* owner) const
     {
-        const auto [status, body] = co_await exchange(std::move(request), owner);
-        if (status < 0)
+        const auto got = co_await exchange(std::move(request), owner);
+        if (!got.answered())
             co_return APIError::network();
-        co_return answer::readChatSend<T>(body, status);
+        co_return answer::readChatSend<T>(got.body, got.status);
     }
-
-    // The raw bytes of a read, for files: a status outside 200..299 is `http(status)`.
-    QCoro::Task<Result<QByteArray>> bytes(Request request, QObject* owner) const;
 
     // Session and configuration.
     QCoro::Task<Result<ConfigPayload>> config(QObject* owner) const;
@@ -106,11 +103,7 @@ public:
                                             QObject* owner) const;
 
 private:
-    struct Exchange {
-        int status = -1; // -1: no HTTP answer
-        QByteArray body;
-    };
-    QCoro::Task<Exchange> exchange(Request request, QObject* owner) const;
+    QCoro::Task<HttpExchange> exchange(Request request, QObject* owner) const;
 
     QPointer<QNetworkAccessManager> m_session;
     QString m_site;

@@ -1,6 +1,7 @@
 #include "core/l10n/L10n.h"
 
 #include "core/l10n/CatalogueRow.h"
+#include "core/l10n/StaticText.h"
 
 #include <QHash>
 #include <array>
@@ -14,26 +15,8 @@ struct Entry {
     QString ka;
     QString ru;
 
-    const QString& in(Lang lang) const
-    {
-        switch (lang) {
-        case Lang::en:
-            return en;
-        case Lang::ru:
-            return ru;
-        case Lang::ka:
-            break;
-        }
-        return ka;
-    }
+    const QString& in(Lang lang) const { return inLang(lang, en, ka, ru); }
 };
-
-// The texts live in static storage for the whole run; the strings only point at them.
-QString wrap(std::u16string_view text)
-{
-    return QString::fromRawData(reinterpret_cast<const QChar*>(text.data()),
-                                static_cast<qsizetype>(text.size()));
-}
 
 using Table = QHash<Key, Entry>;
 
@@ -48,7 +31,7 @@ void fill(Catalogue& catalogue, Table& table, std::span<const CatalogueRow> rows
 {
     table.reserve(static_cast<qsizetype>(rows.size()));
     for (const CatalogueRow& row : rows) {
-        table.insert(row.key, Entry{wrap(row.en), wrap(row.ka), wrap(row.ru)});
+        table.insert(row.key, Entry{staticText(row.en), staticText(row.ka), staticText(row.ru)});
         const QLatin1StringView name(row.name);
         catalogue.names[static_cast<std::size_t>(row.key)] = name;
         catalogue.byName.insert(QString(name), row.key);

@@ -1,5 +1,7 @@
 #include "core/l10n/QuotaText.h"
 
+#include "core/l10n/StaticText.h"
+
 #include <array>
 #include <string_view>
 
@@ -56,12 +58,6 @@ static_assert([] {
     return true;
 }());
 
-QString wrap(std::u16string_view text)
-{
-    return QString::fromRawData(reinterpret_cast<const QChar*>(text.data()),
-                                static_cast<qsizetype>(text.size()));
-}
-
 } // namespace
 
 QString text(Key key, Lang lang)
@@ -70,15 +66,7 @@ QString text(Key key, Lang lang)
     if (index >= rows.size())
         return QString();
     const Row& row = rows[index];
-    switch (lang) {
-    case Lang::en:
-        return wrap(row.en);
-    case Lang::ru:
-        return wrap(row.ru);
-    case Lang::ka:
-        break;
-    }
-    return wrap(row.ka);
+    return staticText(inLang(lang, row.en, row.ka, row.ru));
 }
 
 QString text(Key key, Lang lang, int first)

@@ -1,5 +1,7 @@
 #include "core/l10n/RatingTags.h"
 
+#include "core/l10n/StaticText.h"
+
 #include <array>
 #include <string_view>
 
@@ -39,12 +41,6 @@ constexpr std::array workerTags{"on_time"_L1, "quality"_L1, "friendly"_L1, "agai
 constexpr std::array employerTags{"paid"_L1,  "clear"_L1,         "respectful"_L1,
                                   "again"_L1, "payment_issue"_L1, "unclear"_L1};
 
-QString wrap(std::u16string_view text)
-{
-    return QString::fromRawData(reinterpret_cast<const QChar*>(text.data()),
-                                static_cast<qsizetype>(text.size()));
-}
-
 } // namespace
 
 QString label(QStringView tagId, Lang lang)
@@ -52,15 +48,7 @@ QString label(QStringView tagId, Lang lang)
     for (const Row& row : rows) {
         if (tagId != row.id)
             continue;
-        switch (lang) {
-        case Lang::en:
-            return wrap(row.en);
-        case Lang::ru:
-            return wrap(row.ru);
-        case Lang::ka:
-            break;
-        }
-        return wrap(row.ka);
+        return staticText(inLang(lang, row.en, row.ka, row.ru));
     }
     return tagId.toString();
 }

@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTimer>
+#include <QUrlQuery>
 #include <gtest/gtest.h>
 
 using namespace vl;
@@ -168,4 +169,17 @@ TEST_F(APIClientTest, SlowAnswersPastTheTimeOutAndGoneOwnersEndAsNetwork)
     clock.start();
     EXPECT_EQ(wait(std::move(pending)).error(), APIError::network());
     EXPECT_LT(clock.elapsed(), 2000);
+}
+
+TEST_F(APIClientTest, QueryValuesTravelAsTyped)
+{
+    const QUrl url =
+        api.url(QStringLiteral("jobs"), {{QStringLiteral("q"), QStringLiteral("C++ & a=b ბარისტა")},
+                                         {QStringLiteral("page"), QStringLiteral("2")}});
+    EXPECT_EQ(url.path(), QStringLiteral("/api/app/v1/jobs"));
+    const QUrlQuery query(url);
+    EXPECT_EQ(query.queryItemValue(QStringLiteral("q"), QUrl::FullyDecoded),
+              QStringLiteral("C++ & a=b ბარისტა"));
+    EXPECT_EQ(query.queryItemValue(QStringLiteral("page")), QStringLiteral("2"));
+    EXPECT_FALSE(api.url(QStringLiteral("config")).hasQuery());
 }
