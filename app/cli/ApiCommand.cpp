@@ -5,7 +5,9 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <algorithm>
 #include <functional>
+#include <optional>
 
 namespace vl::cli {
 
@@ -29,13 +31,47 @@ QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task)
     const auto result = co_await std::move(task);
     if (!result)
         co_return result.error();
-    co_return QJsonObject{{QStringLiteral("items"), json::write(result->items)},
-                          {QStringLiteral("meta"), json::write(result->meta)}};
+    co_return QJsonValue(QJsonObject{{QStringLiteral("items"), json::write(result->items)},
+                                     {QStringLiteral("meta"), json::write(result->meta)}});
 }
 
 QString text(const Args& args, const char* name)
 {
     return args.value(QLatin1StringView(name)).toString();
+}
+
+std::optional<QString> optionalText(const Args& args, const char* name)
+{
+    const QJsonValue value = args.value(QLatin1StringView(name));
+    if (!value.isString())
+        return std::nullopt;
+    return value.toString();
+}
+
+bool flag(const QJsonObject& args, const char* name)
+{
+    return args.value(QLatin1StringView(name)).toBool();
+}
+
+JobKind kindOf(const Args& args)
+{
+    return jobKindOf(text(args, "kind"));
+}
+
+Lang localeOf(AppContext& context, const Args& args)
+{
+    return langFromRaw(text(args, "locale")).value_or(context.appState.lang());
+}
+
+APIClient::QuickPicks picksOf(const Args& args)
+{
+    const QJsonObject picks = args.value(QLatin1StringView("picks")).toObject();
+    return {.today = flag(picks, "today"),
+            .remote = flag(picks, "remote"),
+            .noExperience = flag(picks, "noExperience"),
+            .english = flag(picks, "english"),
+            .partTime = flag(picks, "partTime"),
+            .pay = flag(picks, "pay")};
 }
 
 struct Operation {
@@ -69,6 +105,22 @@ const std::vector<Operation>& operations()
         {"POST", "auth/logout",
          [](AppContext& c, const Args& a) {
              return asJson(c.api().authLogout(text(a, "pushToken"), text(a, "voipToken"), nullptr));
+         }},
+        {"GET", "jobs",
+         [](AppContext& c, const Args& a) {
+             return pageAsJson(c.api().jobs(
+                 kindOf(a), localeOf(c, a),
+                 std::max(1, a.value(QLatin1StringView("page")).toInt(1)), text(a, "query"),
+                 optionalText(a, "category"), optionalText(a, "city"), optionalText(a, "sort"),
+                 flag(a, "direct"), picksOf(a), flag(a, "fresh"), nullptr));
+         }},
+        {"GET", "board",
+         [](AppContext& c, const Args& a) {
+             return asJson(c.api().board(kindOf(a), localeOf(c, a), nullptr));
+         }},
+        {"GET", "jobs/{ref}",
+         [](AppContext& c, const Args& a) {
+             return asJson(c.api().jobDetail(text(a, "ref"), localeOf(c, a), nullptr));
          }},
     };
     return all;

@@ -170,4 +170,61 @@ QCoro::Task<Result<Nothing>> APIClient::authLogout(QString pushToken, QString vo
                          owner);
 }
 
+QCoro::Task<Result<Page<JobSummary>>>
+APIClient::jobs(JobKind kind, Lang lang, int page, QString query, std::optional<QString> category,
+                std::optional<QString> city, std::optional<QString> sort, bool direct,
+                QuickPicks picks, bool fresh, QObject* owner) const
+{
+    Query items{{QStringLiteral("kind"), rawValue(kind)},
+                {QStringLiteral("locale"), rawValue(lang)},
+                {QStringLiteral("page"), QString::number(page)}};
+    if (!query.isEmpty())
+        items[QStringLiteral("q")] = query;
+    if (category)
+        items[QStringLiteral("category")] = *category;
+    // A chosen city outranks the remote pick; the chip stays lit all the same.
+    if (city)
+        items[QStringLiteral("city")] = *city;
+    else if (picks.remote)
+        items[QStringLiteral("city")] = QStringLiteral("remote");
+    if (sort)
+        items[QStringLiteral("sort")] = *sort;
+    if (direct)
+        items[QStringLiteral("direct")] = QStringLiteral("1");
+    if (picks.today)
+        items[QStringLiteral("since")] = QStringLiteral("today");
+    if (picks.noExperience)
+        items[QStringLiteral("noexp")] = QStringLiteral("1");
+    if (picks.english)
+        items[QStringLiteral("english")] = QStringLiteral("1");
+    if (picks.partTime)
+        items[QStringLiteral("type")] = QStringLiteral("part");
+    if (picks.pay)
+        items[QStringLiteral("pay")] = QStringLiteral("1500");
+    return list<JobSummary>({.shape = Shape::taggedRead,
+                             .path = QStringLiteral("jobs"),
+                             .query = std::move(items),
+                             .fresh = fresh},
+                            owner);
+}
+
+QCoro::Task<Result<BoardSummary>> APIClient::board(JobKind kind, Lang lang, QObject* owner) const
+{
+    return call<BoardSummary>({.shape = Shape::plainRead,
+                               .path = QStringLiteral("board"),
+                               .query = {{QStringLiteral("kind"), rawValue(kind)},
+                                         {QStringLiteral("locale"), rawValue(lang)}}},
+                              owner);
+}
+
+QCoro::Task<Result<JobDetail>> APIClient::jobDetail(QString ref, Lang lang, QObject* owner) const
+{
+    return call<JobDetail>(
+        {.shape = Shape::plainRead,
+         .path = QStringLiteral("jobs/") + QString::fromLatin1(QUrl::toPercentEncoding(ref)),
+         .query = {{QStringLiteral("locale"), rawValue(lang)},
+                   {QStringLiteral("forms"), QStringLiteral("1")}}},
+        owner);
+}
+
 } // namespace vl

@@ -3,7 +3,9 @@
 #include "app/service/HttpExchange.h"
 #include "core/discovery/BoardSummary.h"
 #include "core/discovery/JobDetail.h"
+#include "core/discovery/JobKind.h"
 #include "core/discovery/JobSummary.h"
+#include "core/discovery/QuickPicks.h"
 #include "core/l10n/Lang.h"
 #include "core/service/Answer.h"
 #include "core/session/ConfigPayload.h"
@@ -33,6 +35,7 @@ class APIClient {
 public:
     using TokenSource = std::function<std::optional<QString>()>;
     using Query = std::map<QString, QString>;
+    using QuickPicks = vl::QuickPicks;
 
     enum class Shape { plainRead, taggedRead, bearerRead, jsonWrite, deleteCall, multipartWrite };
 
@@ -101,6 +104,15 @@ public:
                                                       QObject* owner) const;
     QCoro::Task<Result<Nothing>> authLogout(QString pushToken, QString voipToken,
                                             QObject* owner) const;
+
+    // Board.
+    QCoro::Task<Result<Page<JobSummary>>> jobs(JobKind kind, Lang lang, int page, QString query,
+                                               std::optional<QString> category,
+                                               std::optional<QString> city,
+                                               std::optional<QString> sort, bool direct,
+                                               QuickPicks picks, bool fresh, QObject* owner) const;
+    QCoro::Task<Result<BoardSummary>> board(JobKind kind, Lang lang, QObject* owner) const;
+    QCoro::Task<Result<JobDetail>> jobDetail(QString ref, Lang lang, QObject* owner) const;
 
 private:
     QCoro::Task<HttpExchange> exchange(Request request, QObject* owner) const;

@@ -2,6 +2,7 @@
 
 #include "app/platform/KeychainSecretStore.h"
 #include "app/platform/SettingsPreferences.h"
+#include "app/platform/TimerScheduler.h"
 #include "app/service/NetworkSession.h"
 #include "app/shell/BuildNumber.h"
 
@@ -17,6 +18,9 @@ AppContext::AppContext(PlatformBindings platform)
     , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota})
     , taxonomy(m_api, m_platform.build)
     , review(*m_platform.preferences)
+    , router(m_api.site())
+    , nav(router)
+    , saved(*m_platform.preferences)
 {
 }
 
@@ -26,6 +30,7 @@ PlatformBindings AppContext::linuxBindings()
     platform.preferences = std::make_unique<SettingsPreferences>();
     platform.secrets = std::make_unique<KeychainSecretStore>(*platform.preferences);
     platform.session = makeNetworkSession();
+    platform.scheduler = std::make_unique<TimerScheduler>();
     platform.preferredLanguages = QLocale::system().uiLanguages();
     const QString fromEnvironment = qEnvironmentVariable("VELMORA_SITE");
     platform.site =

@@ -2,14 +2,18 @@
 
 #include "app/calls/CallCenter.h"
 #include "app/conversations/InboxState.h"
+#include "app/discovery/SavedJobs.h"
 #include "app/hiring/QuotaStore.h"
 #include "app/identity/CandidateAuth.h"
 #include "app/platform/Preferences.h"
+#include "app/platform/Scheduler.h"
 #include "app/platform/SecretStore.h"
 #include "app/service/APIClient.h"
 #include "app/shell/AppState.h"
 #include "app/shell/AuthManager.h"
+#include "app/shell/MacNav.h"
 #include "app/shell/ReviewAsk.h"
+#include "app/shell/Router.h"
 #include "app/shell/Taxonomy.h"
 
 #include <QNetworkAccessManager>
@@ -24,6 +28,7 @@ struct PlatformBindings {
     std::unique_ptr<Preferences> preferences;
     std::unique_ptr<SecretStore> secrets;
     std::unique_ptr<QNetworkAccessManager> session;
+    std::unique_ptr<Scheduler> scheduler;
     QStringList preferredLanguages;
     QString site;
     qint64 build = 0;
@@ -55,6 +60,7 @@ public:
     Preferences& preferences() { return *m_platform.preferences; }
     SecretStore& secrets() { return *m_platform.secrets; }
     QNetworkAccessManager& session() { return *m_platform.session; }
+    Scheduler& scheduler() { return *m_platform.scheduler; }
     const APIClient& api() const { return m_api; }
     const QString& site() const { return m_platform.site; }
 
@@ -66,6 +72,9 @@ public:
     AuthManager auth;
     Taxonomy taxonomy;
     ReviewAsk review;
+    Router router;
+    MacNav nav;
+    SavedJobs saved;
 };
 
 } // namespace vl

@@ -36,4 +36,27 @@ QString Taxonomy::updatePage() const
     return m_updatePage.isEmpty() ? m_api.site() : m_updatePage;
 }
 
+namespace {
+
+QString labelIn(const std::vector<ConfigPayload::Entry>& entries, const QString& key, Lang lang)
+{
+    for (const auto& entry : entries) {
+        if (entry.key == key)
+            return entry.label(lang);
+    }
+    return key;
+}
+
+} // namespace
+
+QString Taxonomy::categoryLabel(const QString& key, Lang lang) const
+{
+    return labelIn(m_categories, key, lang);
+}
+
+QString Taxonomy::cityLabel(const QString& key, Lang lang) const
+{
+    return labelIn(m_cities, key, lang);
+}
+
 } // namespace vl

@@ -25,6 +25,9 @@ public:
     const std::vector<ConfigPayload::Entry>& categories() const { return m_categories; }
     const std::vector<ConfigPayload::Entry>& cities() const { return m_cities; }
     const std::vector<ConfigPayload::Entry>& employmentTypes() const { return m_employmentTypes; }
+    // A key's label in the language; the key itself when the taxonomy doesn't hold it.
+    QString categoryLabel(const QString& key, Lang lang) const;
+    QString cityLabel(const QString& key, Lang lang) const;
     const std::optional<ConfigPayload::Features>& features() const { return m_features; }
     const std::optional<UpdateRequired>& updateRequired() const { return m_updateRequired; }
     const std::optional<UpdateAvailable>& updateAvailable() const { return m_updateAvailable; }

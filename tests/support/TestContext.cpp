@@ -1,6 +1,7 @@
 #include "tests/support/TestContext.h"
 
 #include "app/platform/KeychainSecretStore.h"
+#include "app/platform/TimerScheduler.h"
 #include "app/service/NetworkSession.h"
 
 namespace vl::test {
@@ -14,6 +15,10 @@ std::unique_ptr<AppContext> makeContext(const TestContextOptions& options)
     else
         platform.secrets = std::make_unique<MemorySecretStore>(*platform.preferences);
     platform.session = makeNetworkSession();
+    if (options.manualTime)
+        platform.scheduler = std::make_unique<ManualScheduler>();
+    else
+        platform.scheduler = std::make_unique<TimerScheduler>();
     platform.preferredLanguages = options.preferredLanguages;
     platform.site = options.site;
     platform.build = options.build;
@@ -23,6 +28,11 @@ std::unique_ptr<AppContext> makeContext(const TestContextOptions& options)
 MemoryPreferences& preferencesOf(AppContext& context)
 {
     return static_cast<MemoryPreferences&>(context.preferences());
+}
+
+ManualScheduler& manualSchedulerOf(AppContext& context)
+{
+    return static_cast<ManualScheduler&>(context.scheduler());
 }
 
 MemorySecretStore& secretsOf(AppContext& context)

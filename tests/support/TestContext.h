@@ -2,6 +2,7 @@
 
 #include "app/shell/AppContext.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/ManualScheduler.h"
 
 #include <QCoroTask>
 #include <memory>
@@ -17,12 +18,15 @@ struct TestContextOptions {
     QStringList preferredLanguages{QStringLiteral("en-US")};
     qint64 build = 100;
     bool realSecretService = false;
+    // Timers wait for the test to advance a ManualScheduler instead of the clock.
+    bool manualTime = false;
 };
 
 std::unique_ptr<AppContext> makeContext(const TestContextOptions& options);
 
 MemoryPreferences& preferencesOf(AppContext& context);
 MemorySecretStore& secretsOf(AppContext& context);
+ManualScheduler& manualSchedulerOf(AppContext& context);
 
 // Runs a task to its end on a nested event loop. Results need no default value.
 template <class T>

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/discovery/BoardLedger.h"
+#include "core/l10n/Lang.h"
+
+#include <QAbstractListModel>
+#include <functional>
+#include <vector>
+
+namespace vl {
+
+class BoardModel;
+
+// The board's ledger as list rows: the heads and listings of BoardLedger over the board's
+// items. A next page that only adds rows at the end arrives as an insertion, so the view keeps
+// its place; anything else resets.
+class LedgerModel : public QAbstractListModel {
+    Q_OBJECT
+public:
+    enum Role {
+        IsHeadRole = Qt::UserRole + 1,
+        HeadTextRole,
+        HeadCountRole,
+        PinnedHeadRole,
+        JobRole, // const JobSummary*, as a pointer in a quintptr
+        IndexRole,
+        FreshRole,
+        RefRole,
+    };
+
+    using Clock = std::function<QDateTime()>;
+
+    LedgerModel(BoardModel& board, Clock now = {}, QObject* parent = nullptr);
+
+    void setLang(Lang lang);
+    Lang lang() const { return m_lang; }
+    const std::vector<BoardLedger::Row>& rows() const { return m_rows; }
+    // The list row of a listing, or -1.
+    int rowOfRef(const QString& ref) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    // The listing of a row, or nothing for a head.
+    const JobSummary* jobAt(int row) const;
+
+private:
+    void rebuild();
+
+    BoardModel& m_board;
+    Clock m_now;
+    Lang m_lang = Lang::ka;
+    std::vector<BoardLedger::Row> m_rows;
+    QStringList m_ids;
+};
+
+} // namespace vl
