@@ -1,9 +1,13 @@
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
+#include "app/shell/InstanceChannel.h"
 #include "app/shell/MainWindow.h"
+#include "app/shell/WebLinkHandler.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTimer>
+#include <cstdio>
 
 namespace {
 
@@ -16,18 +20,56 @@ QCoro::Task<> launch(vl::AppContext& context, vl::MainWindow& window)
     co_await context.boot();
 }
 
+void bringForward(QWidget& window)
+{
+    if (window.isMinimized())
+        window.showNormal();
+    window.raise();
+    window.activateWindow();
+    QApplication::alert(&window);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    QElapsedTimer started;
+    started.start();
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("velmora"));
     QApplication::setApplicationName(QStringLiteral("velmora"));
+
+    // A web link may come as the only argument, from the desktop's URL handler.
+    const QString link = QApplication::arguments().value(1);
+    vl::PlatformBindings bindings = vl::AppContext::linuxBindings();
+    vl::InstanceChannel channel(bindings.site);
+    if (channel.handOver(link))
+        return 0;
+    channel.listen();
+
     vl::Theme::apply(app);
-    vl::AppContext context(vl::AppContext::linuxBindings());
+    vl::AppContext context(std::move(bindings));
     context.calls.setBooted();
     context.review.countLaunch();
     vl::MainWindow window(context);
+    vl::WebLinkHandler links(context.router, context.nav);
+    QObject::connect(&channel, &vl::InstanceChannel::linkReceived, &window,
+                     [&links, &window](const QString& received) {
+                         if (!received.isEmpty())
+                             links.open(QUrl(received));
+                         bringForward(window);
+                     });
+    if (!link.isEmpty())
+        links.open(QUrl(link));
+
+    // For the start-up benchmark only: report when the first board rows are on screen, and end.
+    if (qEnvironmentVariableIsSet("VELMORA_BENCH_FIRST_PAGE")) {
+        QObject::connect(&window, &vl::MainWindow::firstPageDrawn, &app, [&started] {
+            std::printf("first-page-drawn %lld\n", static_cast<long long>(started.elapsed()));
+            std::fflush(stdout);
+            QApplication::quit();
+        });
+    }
     QTimer::singleShot(0, &app, [&context, &window] { launch(context, window); });
     return app.exec();
 }

@@ -69,11 +69,59 @@ QPushButton[vlRole="quiet"] {
     border: none; background: transparent; color: #5f6b76; padding: 6px 10px;
 }
 QPushButton[vlRole="quiet"]:hover { background: #e7ebef; color: #1d2329; }
+QPushButton[vlRole="star"] {
+    border: none; background: transparent; color: #1e7f74; font-size: 20pt; padding: 0px 4px;
+}
+QPushButton[vlRole="star"]:hover { color: #145a52; }
 QToolButton[vlRole="dismiss"] {
     border: none; border-radius: 6px; padding: 4px 8px; color: #1e7f74; background: transparent;
 }
 QToolButton[vlRole="dismiss"]:hover { background: #d3eae5; }
-QListWidget[vlRole="sections"] { background: transparent; border: none; }
+QListWidget[vlRole="sections"] { background: transparent; border: none; outline: none; }
+QListWidget[vlRole="sections"]::item { padding: 0px; border: none; }
+QToolButton[vlRole="chip"] {
+    border: 1px solid #d3dae0; border-radius: 13px; padding: 4px 12px; background: #ffffff;
+}
+QToolButton[vlRole="chip"]:hover { background: #f3f5f7; }
+QToolButton[vlRole="chip"]:checked {
+    background: #1e7f74; border-color: #1e7f74; color: #ffffff; font-weight: 600;
+}
+QPushButton[vlRole="ticket"] {
+    border: 1px solid #e1e6ea; border-radius: 10px; padding: 8px 12px; background: #fbfcfc;
+    text-align: left;
+}
+QPushButton[vlRole="ticket"]:hover { border-color: #1e7f74; background: #f3faf8; }
+QLabel[vlRole="nudge"] {
+    background: #e8f4f1; color: #145a52; border-radius: 8px; padding: 8px 12px;
+}
+QLabel[vlRole="tag"] {
+    background: #e8f4f1; color: #1e7f74; border-radius: 9px; padding: 2px 9px; font-weight: 600;
+}
+QLabel[vlRole="stamp"] {
+    color: #a8261b; border: 2px solid #a8261b; border-radius: 6px; padding: 2px 8px;
+    font-weight: 800;
+}
+QLabel[vlRole="section"] {
+    color: #5f6b76; font-size: 8pt; font-weight: 700; letter-spacing: 1px;
+}
+QListView[vlRole="ledger"], QListWidget[vlRole="ledger"] {
+    border: none; background: #ffffff; outline: none;
+}
+QWidget[vlRole="pane"] { background: #fbfcfc; border-left: 1px solid #e1e6ea; }
+QScrollArea[vlRole="plain"], QScrollArea[vlRole="rail"] {
+    border: none; background: transparent;
+}
+QScrollArea[vlRole="rail"] > QWidget > QWidget { background: transparent; }
+QScrollArea[vlRole="rail"] QScrollBar:horizontal {
+    height: 4px; background: transparent; margin: 0px; border: none;
+}
+QScrollArea[vlRole="rail"] QScrollBar::handle:horizontal {
+    background: #d3dae0; border-radius: 2px; min-width: 30px;
+}
+QScrollArea[vlRole="rail"] QScrollBar::add-line:horizontal,
+QScrollArea[vlRole="rail"] QScrollBar::sub-line:horizontal { width: 0px; border: none; }
+QScrollArea[vlRole="rail"] QScrollBar::add-page:horizontal,
+QScrollArea[vlRole="rail"] QScrollBar::sub-page:horizontal { background: transparent; }
 QProgressBar[vlRole="busy"] {
     border: none; background: #e3efed; border-radius: 2px;
     min-height: 4px; max-height: 4px;

@@ -14,7 +14,8 @@ public:
     static void apply(QApplication& app);
     // Gives a widget one of the sheet's roles: "sidebar", "account", "brand", "display", "title",
     // "subtitle", "caption", "name", "avatar", "error", "banner", "card", "primary", "link",
-    // "quiet", "dismiss", "sections", "busy".
+    // "quiet", "dismiss", "sections", "busy", "chip", "ticket", "nudge", "tag", "stamp", "section",
+    // "ledger", "pane", "plain", "rail", "star".
     static void setRole(QWidget* widget, const char* role);
 };
 

@@ -1,6 +1,9 @@
 #include "app/shell/MainWindow.h"
 
+#include "app/discovery/BoardScreen.h"
+#include "app/discovery/SavedScreen.h"
 #include "app/hiring/LoginSheet.h"
+#include "app/kit/SidebarDelegate.h"
 #include "app/kit/Theme.h"
 #include "app/shell/AccountMenu.h"
 #include "app/shell/AppContext.h"
@@ -11,6 +14,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,6 +25,8 @@
 #include <QVBoxLayout>
 
 namespace vl {
+
+using L10n::Key;
 
 namespace {
 
@@ -56,7 +62,19 @@ MainWindow::MainWindow(AppContext& context, QWidget* parent)
 
     connect(&m_context.appState, &AppState::langChanged, this, &MainWindow::retext);
     connect(&m_context.taxonomy, &Taxonomy::changed, this, &MainWindow::closeGateIfRequired);
+    connect(&m_context.auth, &AuthManager::sessionChanged, this, &MainWindow::rebuildSections);
+    connect(&m_context.auth, &AuthManager::meChanged, this, &MainWindow::rebuildSections);
+    connect(&m_context.inbox, &InboxState::unreadChanged, this, &MainWindow::rebuildSections);
+    connect(&m_context.nav, &MacNav::sectionChanged, this, &MainWindow::showSection);
+    connect(&m_context.nav, &MacNav::sidebarShownChanged, this, [this] {
+        if (m_sidebar)
+            m_sidebar->setVisible(m_context.nav.sidebarShown());
+        retext();
+    });
+    connect(&m_context.router, &Router::readingJobChanged, this, &MainWindow::refreshListingMenu);
+    connect(&m_context.saved, &SavedJobs::changed, this, &MainWindow::refreshListingMenu);
     retext();
+    showSection();
     closeGateIfRequired();
 }
 
@@ -65,6 +83,7 @@ QWidget* MainWindow::buildShell()
     auto* shell = new QWidget(m_root);
 
     auto* sidebar = new QFrame(shell);
+    m_sidebar = sidebar;
     sidebar->setObjectName(QStringLiteral("vl.sidebar"));
     Theme::setRole(sidebar, "sidebar");
     sidebar->setFixedWidth(248);
@@ -72,9 +91,20 @@ QWidget* MainWindow::buildShell()
     brand->setObjectName(QStringLiteral("vl.sidebar.brand"));
     Theme::setRole(brand, "brand");
     auto* sections = new QListWidget(sidebar);
+    m_sections = sections;
     sections->setObjectName(QStringLiteral("vl.sidebar.sections"));
     sections->setFrameShape(QFrame::NoFrame);
+    sections->setItemDelegate(new SidebarDelegate(sections));
+    sections->setMouseTracking(true);
+    sections->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Theme::setRole(sections, "sections");
+    connect(sections, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
+        if (m_showingSections || !item)
+            return;
+        if (const auto section =
+                macSectionFromRaw(item->data(SidebarDelegate::SectionRole).toString()))
+            m_context.nav.setSection(*section);
+    });
     auto* account = new AccountMenu(m_account, m_context.appState, sidebar);
     connect(account, &AccountMenu::signInRequested, this, &MainWindow::openSignIn);
     auto* sideLayout = new QVBoxLayout(sidebar);
@@ -91,14 +121,22 @@ QWidget* MainWindow::buildShell()
     content->setObjectName(QStringLiteral("vl.content"));
     auto* banner = new UpdateBanner(m_banner, m_context.appState, content);
     auto* pages = new QStackedWidget(content);
+    m_pages = pages;
     pages->setObjectName(QStringLiteral("vl.content.pages"));
+    m_board = new BoardScreen(m_context, pages);
+    connect(m_board, &BoardScreen::signInRequested, this, &MainWindow::openSignIn);
+    connect(m_board, &BoardScreen::firstPageDrawn, this, &MainWindow::firstPageDrawn);
+    pages->addWidget(m_board);
+    m_saved = new SavedScreen(m_context, pages);
+    pages->addWidget(m_saved);
+    // Sections whose screens come later show their name.
     auto* placeholderPage = new QWidget(pages);
-    auto* placeholder = new QLabel(QStringLiteral("Velmora"), placeholderPage);
-    placeholder->setObjectName(QStringLiteral("vl.content.placeholder"));
-    Theme::setRole(placeholder, "display");
+    m_placeholder = new QLabel(placeholderPage);
+    m_placeholder->setObjectName(QStringLiteral("vl.content.placeholder"));
+    Theme::setRole(m_placeholder, "display");
     auto* placeholderLayout = new QVBoxLayout(placeholderPage);
     placeholderLayout->addStretch(1);
-    placeholderLayout->addWidget(placeholder, 0, Qt::AlignHCenter);
+    placeholderLayout->addWidget(m_placeholder, 0, Qt::AlignHCenter);
     placeholderLayout->addStretch(1);
     pages->addWidget(placeholderPage);
     auto* contentLayout = new QVBoxLayout(content);
@@ -125,11 +163,80 @@ void MainWindow::buildMenus()
     connect(m_checkUpdates, &QAction::triggered, this,
             [this] { QDesktopServices::openUrl(QUrl(m_context.taxonomy.updatePage())); });
     m_appMenu->addSeparator();
+    m_help = m_appMenu->addAction(QString());
+    m_help->setObjectName(QStringLiteral("vl.action.help"));
+    m_help->setShortcut(QKeySequence::HelpContents);
+    connect(m_help, &QAction::triggered, this, [this] { openOnSite(QStringLiteral("/faq")); });
+    m_support = m_appMenu->addAction(QString());
+    m_support->setObjectName(QStringLiteral("vl.action.support"));
+    connect(m_support, &QAction::triggered, this,
+            [this] { m_context.nav.setSection(MacSection::support); });
+    m_terms = m_appMenu->addAction(QString());
+    m_terms->setObjectName(QStringLiteral("vl.action.terms"));
+    connect(m_terms, &QAction::triggered, this, [this] { openOnSite(QStringLiteral("/terms")); });
+    m_privacy = m_appMenu->addAction(QString());
+    m_privacy->setObjectName(QStringLiteral("vl.action.privacy"));
+    connect(m_privacy, &QAction::triggered, this,
+            [this] { openOnSite(QStringLiteral("/privacy")); });
+    m_appMenu->addSeparator();
     m_quit = m_appMenu->addAction(QString());
     m_quit->setObjectName(QStringLiteral("vl.action.quit"));
     m_quit->setShortcut(QKeySequence::Quit);
     m_quit->setMenuRole(QAction::QuitRole);
     connect(m_quit, &QAction::triggered, qApp, &QApplication::quit);
+
+    auto addAction = [this](QMenu* menu, const char* name, QKeySequence shortcut, auto&& slot) {
+        QAction* action = menu->addAction(QString());
+        action->setObjectName(QStringLiteral("vl.action.") + QLatin1StringView(name));
+        if (!shortcut.isEmpty())
+            action->setShortcut(shortcut);
+        connect(action, &QAction::triggered, this, std::forward<decltype(slot)>(slot));
+        return action;
+    };
+
+    m_listingMenu = menuBar()->addMenu(QString());
+    m_listingMenu->setObjectName(QStringLiteral("vl.menu.listing"));
+    m_apply = addAction(m_listingMenu, "apply", {}, [this] { m_context.router.askToApply(); });
+    m_ask = addAction(m_listingMenu, "ask", {}, [this] { m_context.router.askToEnquire(); });
+    m_listingMenu->addSeparator();
+    m_save = addAction(m_listingMenu, "save", QKeySequence(QStringLiteral("Ctrl+D")), [this] {
+        if (const auto& job = m_context.router.readingJob())
+            m_context.saved.toggle(*job);
+    });
+    m_copyLink =
+        addAction(m_listingMenu, "copyLink", QKeySequence(QStringLiteral("Ctrl+Shift+C")), [this] {
+            if (const auto& job = m_context.router.readingJob())
+                QGuiApplication::clipboard()->setText(job->siteUrl);
+        });
+    m_openListing = addAction(m_listingMenu, "openOnSite", {}, [this] {
+        if (const auto& job = m_context.router.readingJob())
+            QDesktopServices::openUrl(QUrl(job->siteUrl));
+    });
+
+    m_goMenu = menuBar()->addMenu(QString());
+    m_goMenu->setObjectName(QStringLiteral("vl.menu.go"));
+    m_search = addAction(m_goMenu, "search", QKeySequence::Find, [this] {
+        m_context.nav.setSection(MacSection::vacancies);
+        m_context.router.find();
+    });
+    m_refresh =
+        addAction(m_goMenu, "refresh", QKeySequence::Refresh, [this] { m_context.nav.reload(); });
+    m_sidebarToggle =
+        addAction(m_goMenu, "sidebar", QKeySequence(QStringLiteral("Ctrl+Alt+S")),
+                  [this] { m_context.nav.setSidebarShown(!m_context.nav.sidebarShown()); });
+    m_goMenu->addSeparator();
+    m_nextListing = addAction(m_goMenu, "nextListing", QKeySequence(QStringLiteral("Alt+Down")),
+                              [this] { m_context.router.step(1); });
+    m_previousListing =
+        addAction(m_goMenu, "previousListing", QKeySequence(QStringLiteral("Alt+Up")),
+                  [this] { m_context.router.step(-1); });
+    m_nextPlace = addAction(m_goMenu, "nextPlace", QKeySequence(QStringLiteral("Ctrl+PgDown")),
+                            [this] { m_context.nav.stepSection(1, m_context.auth.hiring()); });
+    m_previousPlace =
+        addAction(m_goMenu, "previousPlace", QKeySequence(QStringLiteral("Ctrl+PgUp")),
+                  [this] { m_context.nav.stepSection(-1, m_context.auth.hiring()); });
+    m_goMenu->addSeparator();
+    m_openSite = addAction(m_goMenu, "openSite", {}, [this] { openOnSite(QString()); });
 
     m_languageMenu = menuBar()->addMenu(QString());
     m_languageMenu->setObjectName(QStringLiteral("vl.menu.language"));
@@ -150,11 +257,119 @@ void MainWindow::buildMenus()
 void MainWindow::retext()
 {
     const Lang lang = m_context.appState.lang();
-    m_checkUpdates->setText(L10n::text(L10n::Key::macCheckUpdates, lang));
-    m_quit->setText(L10n::text(L10n::Key::mbQuit, lang));
-    m_languageMenu->setTitle(L10n::text(L10n::Key::language, lang));
+    m_checkUpdates->setText(L10n::text(Key::macCheckUpdates, lang));
+    m_quit->setText(L10n::text(Key::mbQuit, lang));
+    m_languageMenu->setTitle(L10n::text(Key::language, lang));
     for (QAction* action : m_languages->actions())
         action->setChecked(action->data().toString() == rawValue(lang));
+    if (!m_listingMenu)
+        return;
+    m_listingMenu->setTitle(L10n::text(Key::macListingMenu, lang));
+    m_goMenu->setTitle(L10n::text(Key::macGo, lang));
+    m_search->setText(L10n::text(Key::search, lang));
+    m_refresh->setText(L10n::text(Key::macRefresh, lang));
+    m_sidebarToggle->setText(
+        L10n::text(m_context.nav.sidebarShown() ? Key::macHideSidebar : Key::macShowSidebar, lang));
+    m_apply->setText(L10n::text(Key::applyTitle, lang));
+    m_ask->setText(L10n::text(Key::askTitle, lang));
+    m_copyLink->setText(L10n::text(Key::macCopyLink, lang));
+    m_openListing->setText(L10n::text(Key::macOpenOnSite, lang));
+    m_nextListing->setText(L10n::text(Key::macNextListing, lang));
+    m_previousListing->setText(L10n::text(Key::macPreviousListing, lang));
+    m_nextPlace->setText(L10n::text(Key::macNextPlace, lang));
+    m_previousPlace->setText(L10n::text(Key::macPreviousPlace, lang));
+    m_openSite->setText(L10n::text(Key::openSite, lang));
+    m_help->setText(L10n::text(Key::macHelp, lang));
+    m_support->setText(L10n::text(Key::supportTitle, lang));
+    m_terms->setText(L10n::text(Key::terms, lang));
+    m_privacy->setText(L10n::text(Key::privacy, lang));
+    refreshListingMenu();
+    rebuildSections();
+    showSection();
+}
+
+void MainWindow::rebuildSections()
+{
+    if (!m_sections)
+        return;
+    const Lang lang = m_context.appState.lang();
+    const bool hiring = m_context.auth.hiring();
+    const auto& me = m_context.auth.me();
+    auto badge = [&](MacSection section) {
+        switch (section) {
+        case MacSection::listings:
+            return me ? me->pendingListings.value_or(0) : 0;
+        case MacSection::applicants:
+            return me ? me->newApplications.value_or(0) : 0;
+        case MacSection::inbox:
+            return m_context.inbox.unread();
+        default:
+            return 0;
+        }
+    };
+    m_showingSections = true;
+    m_sections->clear();
+    for (const MacSectionGroup& group : macSectionGroups(hiring)) {
+        auto* head = new QListWidgetItem(L10n::text(group.titleKey, lang), m_sections);
+        head->setData(SidebarDelegate::GroupRole, true);
+        head->setFlags(Qt::NoItemFlags);
+        for (MacSection section : group.items) {
+            auto* item = new QListWidgetItem(L10n::text(titleKey(section), lang), m_sections);
+            item->setData(SidebarDelegate::SectionRole, rawValue(section));
+            item->setData(SidebarDelegate::BadgeRole, badge(section));
+        }
+    }
+    m_showingSections = false;
+    // A hiring section that is no longer shown gives way to the board.
+    const auto visible = visibleMacSections(hiring);
+    if (std::find(visible.begin(), visible.end(), m_context.nav.section()) == visible.end())
+        m_context.nav.setSection(MacSection::vacancies);
+    showSection();
+}
+
+void MainWindow::showSection()
+{
+    if (!m_pages)
+        return;
+    const MacSection section = m_context.nav.section();
+    m_showingSections = true;
+    for (int i = 0; i < m_sections->count(); ++i) {
+        QListWidgetItem* item = m_sections->item(i);
+        if (item->data(SidebarDelegate::SectionRole).toString() == rawValue(section))
+            m_sections->setCurrentItem(item);
+    }
+    m_showingSections = false;
+    if (section == MacSection::vacancies) {
+        m_pages->setCurrentWidget(m_board);
+    } else if (section == MacSection::saved) {
+        m_pages->setCurrentWidget(m_saved);
+    } else {
+        m_placeholder->setText(L10n::text(titleKey(section), m_context.appState.lang()));
+        m_pages->setCurrentIndex(m_pages->count() - 1);
+    }
+    refreshListingMenu();
+}
+
+void MainWindow::refreshListingMenu()
+{
+    if (!m_listingMenu)
+        return;
+    const Lang lang = m_context.appState.lang();
+    const auto& job = m_context.router.readingJob();
+    const bool reading = job.has_value() && m_context.nav.section() != MacSection::seekers;
+    m_apply->setEnabled(reading && job->canApply);
+    m_ask->setEnabled(reading && job->canEnquire);
+    m_save->setEnabled(reading);
+    m_copyLink->setEnabled(reading);
+    m_openListing->setEnabled(reading);
+    const bool saved = reading && m_context.saved.contains(job->ref);
+    m_save->setText(L10n::text(saved ? Key::macUnsave : Key::macSave, lang));
+}
+
+void MainWindow::openOnSite(const QString& path)
+{
+    QDesktopServices::openUrl(
+        QUrl(m_context.site() + QLatin1Char('/') + rawValue(m_context.appState.lang()) + path));
 }
 
 void MainWindow::openSignIn()

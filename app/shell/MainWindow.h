@@ -8,13 +8,18 @@
 
 class QAction;
 class QActionGroup;
+class QFrame;
+class QLabel;
+class QListWidget;
 class QMenu;
 class QStackedWidget;
 
 namespace vl {
 
 class AppContext;
+class BoardScreen;
 class LoginSheet;
+class SavedScreen;
 
 // The one main window: the sidebar with its sections and the account area at its foot, and the
 // content with the update banner above it. When the service refuses this build the window shows
@@ -27,11 +32,21 @@ public:
     // Opens the employer's sign-in sheet over the window, or brings the open one forward.
     void openSignIn();
 
+    BoardScreen* board() const { return m_board; }
+
+Q_SIGNALS:
+    // The board's first rows have been painted.
+    void firstPageDrawn();
+
 private:
     void buildMenus();
     QWidget* buildShell();
     void retext();
     void closeGateIfRequired();
+    void rebuildSections();
+    void showSection();
+    void refreshListingMenu();
+    void openOnSite(const QString& path);
 
     AppContext& m_context;
     AccountMenuModel m_account;
@@ -41,6 +56,32 @@ private:
     QMenu* m_languageMenu = nullptr;
     QAction* m_checkUpdates = nullptr;
     QAction* m_quit = nullptr;
+    QMenu* m_listingMenu = nullptr;
+    QMenu* m_goMenu = nullptr;
+    QAction* m_search = nullptr;
+    QAction* m_refresh = nullptr;
+    QAction* m_sidebarToggle = nullptr;
+    QAction* m_apply = nullptr;
+    QAction* m_ask = nullptr;
+    QAction* m_save = nullptr;
+    QAction* m_copyLink = nullptr;
+    QAction* m_openListing = nullptr;
+    QAction* m_nextListing = nullptr;
+    QAction* m_previousListing = nullptr;
+    QAction* m_nextPlace = nullptr;
+    QAction* m_previousPlace = nullptr;
+    QAction* m_openSite = nullptr;
+    QAction* m_help = nullptr;
+    QAction* m_support = nullptr;
+    QAction* m_terms = nullptr;
+    QAction* m_privacy = nullptr;
+    QFrame* m_sidebar = nullptr;
+    QListWidget* m_sections = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    BoardScreen* m_board = nullptr;
+    SavedScreen* m_saved = nullptr;
+    QLabel* m_placeholder = nullptr;
+    bool m_showingSections = false;
     QActionGroup* m_languages = nullptr;
     QPointer<LoginSheet> m_loginSheet;
     bool m_gateClosed = false;

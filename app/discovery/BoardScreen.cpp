@@ -1,0 +1,533 @@
+#include "app/discovery/BoardScreen.h"
+
+#include "app/discovery/FilterSheet.h"
+#include "app/discovery/JobDetailView.h"
+#include "app/discovery/PostGateSheet.h"
+#include "app/kit/LedgerDelegate.h"
+#include "app/kit/Theme.h"
+#include "app/shell/AppContext.h"
+#include "core/l10n/L10n.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace vl {
+
+using L10n::Key;
+
+namespace {
+
+// Rows from the end at which the next page is asked for.
+constexpr int loadMoreMargin = 12;
+
+struct ChipSpec {
+    const char* name;
+    Key key;
+};
+
+// The quick-pick chips in their order; the first is bound to `direct`, the rest to the picks.
+constexpr ChipSpec chipSpecs[] = {
+    {"direct", Key::directBadge}, {"today", Key::qpToday},
+    {"remote", Key::qpRemote},    {"noExperience", Key::qpNoExp},
+    {"english", Key::qpEnglish},  {"partTime", Key::qpPart},
+    {"pay", Key::qpPay},
+};
+
+bool* pickField(QuickPicks& picks, size_t chip)
+{
+    bool* fields[] = {&picks.today,   &picks.remote,   &picks.noExperience,
+                      &picks.english, &picks.partTime, &picks.pay};
+    return fields[chip - 1];
+}
+
+QToolButton* makeChip(QWidget* parent, const QString& name)
+{
+    auto* chip = new QToolButton(parent);
+    chip->setObjectName(name);
+    chip->setCheckable(true);
+    chip->setCursor(Qt::PointingHandCursor);
+    Theme::setRole(chip, "chip");
+    return chip;
+}
+
+void clearRow(QHBoxLayout* row)
+{
+    while (QLayoutItem* item = row->takeAt(0)) {
+        if (QWidget* widget = item->widget())
+            widget->deleteLater();
+        delete item;
+    }
+}
+
+// A single line of chips that scrolls sideways when it is wider than the column.
+QScrollArea* railArea(QWidget* parent, QHBoxLayout*& row)
+{
+    auto* area = new QScrollArea(parent);
+    Theme::setRole(area, "rail");
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFrameShape(QFrame::NoFrame);
+    auto* inner = new QWidget(area);
+    row = new QHBoxLayout(inner);
+    // Room under the chips for the thin scroll bar.
+    row->setContentsMargins(0, 0, 0, 6);
+    row->setSpacing(6);
+    area->setWidget(inner);
+    return area;
+}
+
+// A rail is as tall as its chips, whatever the scroll area would choose. Chips added to a shown
+// rail count only once shown themselves.
+void fitHeight(QScrollArea* area)
+{
+    area->setFixedHeight(area->widget()->sizeHint().height());
+}
+
+} // namespace
+
+BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_model(JobKind::vacancy, context.api(), context.scheduler())
+    , m_ledger(m_model)
+{
+    setObjectName(QStringLiteral("vl.board"));
+    auto* split = new QSplitter(Qt::Horizontal, this);
+    split->setObjectName(QStringLiteral("vl.board.split"));
+    split->setChildrenCollapsible(false);
+    split->setHandleWidth(1);
+
+    auto* column = new QWidget(split);
+    auto* columnLayout = new QVBoxLayout(column);
+    columnLayout->setContentsMargins(0, 0, 0, 0);
+    columnLayout->setSpacing(0);
+    columnLayout->addWidget(buildHead());
+    columnLayout->addWidget(buildBody(), 1);
+
+    m_detail = new JobDetailView(context, split);
+    split->addWidget(column);
+    split->addWidget(m_detail);
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 2);
+    split->setSizes({560, 420});
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(split);
+
+    connect(&m_model, &BoardModel::changed, this, &BoardScreen::refresh);
+    connect(&m_model, &BoardModel::itemsChanged, this, [this] {
+        QStringList refs;
+        refs.reserve(qsizetype(m_model.items().size()));
+        for (const JobSummary& job : m_model.items())
+            refs << job.ref;
+        m_context.router.setVisibleJobs(std::move(refs));
+        followSelection();
+        QTimer::singleShot(0, this, &BoardScreen::maybeLoadMore);
+    });
+    connect(&context.appState, &AppState::langChanged, this, [this] {
+        retext();
+        loadFirst(false);
+    });
+    connect(&context.nav, &MacNav::reloadsChanged, this, [this] { loadFirst(true); });
+    connect(&context.router, &Router::findTickChanged, this, [this] {
+        m_search->setFocus(Qt::ShortcutFocusReason);
+        m_search->selectAll();
+    });
+    connect(&context.router, &Router::selectedJobChanged, this, &BoardScreen::followSelection);
+    connect(&context.auth, &AuthManager::sessionChanged, this, &BoardScreen::refresh);
+    connect(&context.taxonomy, &Taxonomy::changed, this, [this] {
+        refreshRails();
+        m_list->viewport()->update();
+    });
+
+    retext();
+    if (m_model.items().empty())
+        loadFirst(false);
+}
+
+QWidget* BoardScreen::buildHead()
+{
+    auto* head = new QWidget(this);
+    auto* layout = new QVBoxLayout(head);
+    layout->setContentsMargins(18, 16, 18, 8);
+    layout->setSpacing(10);
+
+    auto* searchRow = new QHBoxLayout;
+    searchRow->setSpacing(8);
+    m_search = new QLineEdit(head);
+    m_search->setObjectName(QStringLiteral("vl.board.search"));
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_model.setQuery(text, m_context.appState.lang()); });
+    m_filters = new QPushButton(head);
+    m_filters->setObjectName(QStringLiteral("vl.board.filters"));
+    connect(m_filters, &QPushButton::clicked, this, &BoardScreen::openFilters);
+    m_post = new QPushButton(QStringLiteral("+"), head);
+    m_post->setObjectName(QStringLiteral("vl.board.post"));
+    Theme::setRole(m_post, "primary");
+    m_post->setFixedWidth(40);
+    connect(m_post, &QPushButton::clicked, this, &BoardScreen::openPostGate);
+    searchRow->addWidget(m_search, 1);
+    searchRow->addWidget(m_filters);
+    searchRow->addWidget(m_post);
+    layout->addLayout(searchRow);
+
+    QHBoxLayout* chipRow = nullptr;
+    QScrollArea* chipArea = railArea(head, chipRow);
+    chipArea->setObjectName(QStringLiteral("vl.board.chips"));
+    for (size_t i = 0; i < std::size(chipSpecs); ++i) {
+        QToolButton* chip =
+            makeChip(chipRow->parentWidget(),
+                     QStringLiteral("vl.board.chip.") + QLatin1StringView(chipSpecs[i].name));
+        connect(chip, &QToolButton::clicked, this, [this, i](bool on) {
+            if (i == 0) {
+                m_model.setDirect(on);
+            } else {
+                QuickPicks picks = m_model.picks();
+                *pickField(picks, i) = on;
+                m_model.setPicks(picks);
+            }
+            reload();
+        });
+        m_chips.push_back(chip);
+        chipRow->addWidget(chip);
+    }
+    chipRow->addStretch(1);
+    fitHeight(chipArea);
+    layout->addWidget(chipArea);
+
+    m_headline = new QLabel(head);
+    m_headline->setObjectName(QStringLiteral("vl.board.headline"));
+    Theme::setRole(m_headline, "subtitle");
+    layout->addWidget(m_headline);
+
+    m_nudge = new QLabel(head);
+    m_nudge->setObjectName(QStringLiteral("vl.board.nudge"));
+    m_nudge->setWordWrap(true);
+    Theme::setRole(m_nudge, "nudge");
+    layout->addWidget(m_nudge);
+
+    m_fresh = new QWidget(head);
+    m_fresh->setObjectName(QStringLiteral("vl.board.fresh"));
+    auto* freshLayout = new QVBoxLayout(m_fresh);
+    freshLayout->setContentsMargins(0, 0, 0, 0);
+    freshLayout->setSpacing(4);
+    m_freshTitle = new QLabel(m_fresh);
+    Theme::setRole(m_freshTitle, "section");
+    freshLayout->addWidget(m_freshTitle);
+    m_freshArea = railArea(m_fresh, m_freshRow);
+    freshLayout->addWidget(m_freshArea);
+    layout->addWidget(m_fresh);
+
+    // Each rail's title stands at its start, so a rail takes one line.
+    m_categoriesArea = railArea(head, m_categoriesRow);
+    m_categoriesArea->setObjectName(QStringLiteral("vl.board.categories"));
+    m_categoriesTitle = new QLabel(head);
+    Theme::setRole(m_categoriesTitle, "section");
+    auto* categoriesLine = new QHBoxLayout;
+    categoriesLine->addWidget(m_categoriesTitle);
+    categoriesLine->addWidget(m_categoriesArea, 1);
+    layout->addLayout(categoriesLine);
+    m_citiesArea = railArea(head, m_citiesRow);
+    m_citiesArea->setObjectName(QStringLiteral("vl.board.cities"));
+    m_citiesTitle = new QLabel(head);
+    Theme::setRole(m_citiesTitle, "section");
+    auto* citiesLine = new QHBoxLayout;
+    citiesLine->addWidget(m_citiesTitle);
+    citiesLine->addWidget(m_citiesArea, 1);
+    layout->addLayout(citiesLine);
+    return head;
+}
+
+QWidget* BoardScreen::buildBody()
+{
+    m_states = new QStackedWidget(this);
+    m_states->setObjectName(QStringLiteral("vl.board.states"));
+
+    m_list = new QListView(m_states);
+    m_list->setObjectName(QStringLiteral("vl.board.list"));
+    Theme::setRole(m_list, "ledger");
+    m_list->setModel(&m_ledger);
+    m_delegate = new LedgerDelegate(m_list);
+    m_delegate->setCityLabel(
+        [this](const QString& key) { return m_context.taxonomy.cityLabel(key, m_ledger.lang()); });
+    m_list->setItemDelegate(m_delegate);
+    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setMouseTracking(true);
+    m_list->setLayoutMode(QListView::Batched);
+    m_list->setBatchSize(200);
+    m_list->viewport()->installEventFilter(this);
+    connect(m_list->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &BoardScreen::maybeLoadMore);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) {
+                if (m_selecting)
+                    return;
+                if (const JobSummary* job = m_ledger.jobAt(current.row()))
+                    m_context.router.selectJob(job->ref);
+            });
+    m_states->addWidget(m_list);
+
+    m_empty = new QLabel(m_states);
+    m_empty->setObjectName(QStringLiteral("vl.board.empty"));
+    m_empty->setWordWrap(true);
+    m_empty->setAlignment(Qt::AlignCenter);
+    m_empty->setContentsMargins(40, 0, 40, 0);
+    Theme::setRole(m_empty, "subtitle");
+    m_states->addWidget(m_empty);
+
+    auto* error = new QWidget(m_states);
+    error->setObjectName(QStringLiteral("vl.board.error"));
+    auto* errorLayout = new QVBoxLayout(error);
+    errorLayout->addStretch(1);
+    m_errorTitle = new QLabel(error);
+    Theme::setRole(m_errorTitle, "title");
+    m_errorBody = new QLabel(error);
+    Theme::setRole(m_errorBody, "subtitle");
+    m_retry = new QPushButton(error);
+    m_retry->setObjectName(QStringLiteral("vl.board.retry"));
+    Theme::setRole(m_retry, "primary");
+    connect(m_retry, &QPushButton::clicked, this, [this] { loadFirst(false); });
+    errorLayout->addWidget(m_errorTitle, 0, Qt::AlignHCenter);
+    errorLayout->addWidget(m_errorBody, 0, Qt::AlignHCenter);
+    errorLayout->addSpacing(8);
+    errorLayout->addWidget(m_retry, 0, Qt::AlignHCenter);
+    errorLayout->addStretch(1);
+    m_states->addWidget(error);
+    return m_states;
+}
+
+void BoardScreen::retext()
+{
+    const Lang lang = m_context.appState.lang();
+    m_ledger.setLang(lang);
+    m_delegate->setLang(lang);
+    m_search->setPlaceholderText(L10n::text(Key::search, lang));
+    for (size_t i = 0; i < m_chips.size(); ++i)
+        m_chips[i]->setText(L10n::text(chipSpecs[i].key, lang));
+    m_nudge->setText(L10n::text(Key::boardSignInNudge, lang));
+    m_freshTitle->setText(L10n::text(Key::bdFresh, lang));
+    m_categoriesTitle->setText(L10n::text(Key::bdBrowse, lang));
+    m_citiesTitle->setText(L10n::text(Key::bdCities, lang));
+    m_empty->setText(L10n::text(Key::boardEmpty, lang));
+    m_errorTitle->setText(L10n::text(Key::errLoadTitle, lang));
+    m_errorBody->setText(L10n::text(Key::errLoadBody, lang));
+    m_retry->setText(L10n::text(Key::retry, lang));
+    m_post->setToolTip(L10n::text(Key::macNewVacancy, lang));
+    refresh();
+    m_list->viewport()->update();
+}
+
+void BoardScreen::refresh()
+{
+    const Lang lang = m_context.appState.lang();
+    const int active = m_model.activeFilters();
+    m_filters->setText(
+        active > 0 ? QStringLiteral("%1 · %2").arg(L10n::text(Key::filters, lang)).arg(active)
+                   : L10n::text(Key::filters, lang));
+    m_chips[0]->setChecked(m_model.direct());
+    QuickPicks picks = m_model.picks();
+    for (size_t i = 1; i < m_chips.size(); ++i)
+        m_chips[i]->setChecked(*pickField(picks, i));
+
+    QString headline = L10n::text(Key::bdPostedToday, lang, m_model.postedToday());
+    if (active > 0 || !m_model.query().isEmpty())
+        headline =
+            L10n::text(Key::bdFound, lang, m_model.total()) + QStringLiteral("  ·  ") + headline;
+    m_headline->setText(headline);
+    m_nudge->setVisible(!m_context.auth.hiring());
+
+    if (m_model.failed() && m_model.items().empty())
+        m_states->setCurrentIndex(2);
+    else if (!m_model.loading() && m_model.items().empty() && m_model.loadedQuery())
+        m_states->setCurrentIndex(1);
+    else
+        m_states->setCurrentIndex(0);
+    refreshRails();
+    refreshFresh();
+}
+
+void BoardScreen::refreshRails()
+{
+    const Lang lang = m_context.appState.lang();
+    const auto& summary = m_model.summary();
+    m_categoriesTitle->setVisible(summary.has_value());
+    m_citiesTitle->setVisible(summary.has_value());
+    m_categoriesArea->setVisible(summary.has_value());
+    m_citiesArea->setVisible(summary.has_value());
+    if (!summary)
+        return;
+
+    struct Rail {
+        QHBoxLayout* row;
+        const std::vector<BoardSummary::Count>* counts;
+        const std::optional<QString>* chosen;
+        bool city;
+    };
+    for (const Rail& rail :
+         {Rail{m_categoriesRow, &summary->categories, &m_model.category(), false},
+          Rail{m_citiesRow, &summary->cities, &m_model.city(), true}}) {
+        // The chips stay while the counts and the language stay; only their marks follow.
+        QStringList wanted;
+        for (const auto& count : *rail.counts) {
+            const QString label = rail.city ? m_context.taxonomy.cityLabel(count.key, lang)
+                                            : m_context.taxonomy.categoryLabel(count.key, lang);
+            wanted << QStringLiteral("%1  %2").arg(label).arg(count.n);
+        }
+        QStringList shown;
+        for (int i = 0; i < rail.row->count(); ++i) {
+            if (auto* chip = qobject_cast<QToolButton*>(rail.row->itemAt(i)->widget()))
+                shown << chip->text();
+        }
+        if (shown != wanted) {
+            clearRow(rail.row);
+            QWidget* owner = rail.row->parentWidget();
+            for (size_t i = 0; i < rail.counts->size(); ++i) {
+                const QString key = (*rail.counts)[i].key;
+                QToolButton* chip = makeChip(
+                    owner,
+                    QString::fromLatin1(rail.city ? "vl.board.city." : "vl.board.category.") + key);
+                chip->setText(wanted[qsizetype(i)]);
+                chip->setProperty("vlKey", key);
+                const bool city = rail.city;
+                connect(chip, &QToolButton::clicked, this, [this, key, city](bool on) {
+                    const std::optional<QString> value =
+                        on ? std::optional<QString>(key) : std::nullopt;
+                    if (city)
+                        m_model.setCity(value);
+                    else
+                        m_model.setCategory(value);
+                    reload();
+                });
+                rail.row->addWidget(chip);
+                chip->show();
+            }
+            rail.row->addStretch(1);
+            fitHeight(rail.city ? m_citiesArea : m_categoriesArea);
+        }
+        for (int i = 0; i < rail.row->count(); ++i) {
+            if (auto* chip = qobject_cast<QToolButton*>(rail.row->itemAt(i)->widget()))
+                chip->setChecked(*rail.chosen == chip->property("vlKey").toString());
+        }
+    }
+}
+
+void BoardScreen::refreshFresh()
+{
+    const auto& summary = m_model.summary();
+    const bool show = m_model.activeFilters() == 0 && m_model.query().isEmpty() && summary &&
+                      !summary->fresh.empty();
+    m_fresh->setVisible(show);
+    if (!show)
+        return;
+    QStringList refs;
+    for (const JobSummary& job : summary->fresh)
+        refs << job.ref + job.title;
+    if (m_fresh->property("vlShown").toStringList() == refs)
+        return;
+    m_fresh->setProperty("vlShown", refs);
+    clearRow(m_freshRow);
+    QWidget* owner = m_freshRow->parentWidget();
+    for (const JobSummary& job : summary->fresh) {
+        auto* ticket = new QPushButton(owner);
+        ticket->setObjectName(QStringLiteral("vl.board.ticket.") + job.ref);
+        Theme::setRole(ticket, "ticket");
+        ticket->setCursor(Qt::PointingHandCursor);
+        const QFontMetrics metrics(ticket->font());
+        ticket->setText(metrics.elidedText(job.title, Qt::ElideRight, 200) + QLatin1Char('\n') +
+                        metrics.elidedText(job.employerName, Qt::ElideRight, 200));
+        const QString ref = job.ref;
+        connect(ticket, &QPushButton::clicked, this,
+                [this, ref] { m_context.router.selectJob(ref); });
+        m_freshRow->addWidget(ticket);
+        ticket->show();
+    }
+    m_freshRow->addStretch(1);
+    fitHeight(m_freshArea);
+}
+
+void BoardScreen::loadFirst(bool fresh)
+{
+    m_model.load(m_context.appState.lang(), true, fresh);
+}
+
+void BoardScreen::reload()
+{
+    loadFirst(false);
+}
+
+void BoardScreen::maybeLoadMore()
+{
+    const int rows = m_ledger.rowCount();
+    if (rows == 0 || !m_model.more() || m_model.loading())
+        return;
+    const QModelIndex last = m_list->indexAt(QPoint(4, m_list->viewport()->height() - 2));
+    const int lastShown = last.isValid() ? last.row() : rows - 1;
+    if (lastShown >= rows - loadMoreMargin)
+        m_model.loadMore(m_context.appState.lang());
+}
+
+void BoardScreen::followSelection()
+{
+    const auto& ref = m_context.router.selectedJob();
+    const int row = ref ? m_ledger.rowOfRef(*ref) : -1;
+    m_selecting = true;
+    if (row >= 0) {
+        const QModelIndex index = m_ledger.index(row);
+        m_list->setCurrentIndex(index);
+        m_list->scrollTo(index);
+    } else {
+        m_list->clearSelection();
+    }
+    m_selecting = false;
+}
+
+void BoardScreen::openFilters()
+{
+    if (m_filterSheet) {
+        m_filterSheet->raise();
+        return;
+    }
+    m_filterSheet = new FilterSheet(
+        m_model, m_context.taxonomy, m_context.appState, [this] { reload(); }, this);
+    m_filterSheet->setAttribute(Qt::WA_DeleteOnClose);
+    m_filterSheet->open();
+}
+
+void BoardScreen::openPostGate()
+{
+    if (m_context.auth.hiring()) {
+        m_context.nav.setShowPostVacancy(true);
+        return;
+    }
+    auto* gate = new PostGateSheet(m_context.appState.lang(), this);
+    gate->setAttribute(Qt::WA_DeleteOnClose);
+    connect(gate, &PostGateSheet::signInRequested, this, &BoardScreen::signInRequested);
+    gate->open();
+}
+
+bool BoardScreen::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!m_drawn && watched == m_list->viewport() && event->type() == QEvent::Paint &&
+        m_ledger.rowCount() > 0) {
+        m_drawn = true;
+        QTimer::singleShot(0, this, &BoardScreen::firstPageDrawn);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace vl

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "app/discovery/BoardModel.h"
+#include "app/discovery/LedgerModel.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+class QListView;
+class QPushButton;
+class QScrollArea;
+class QHBoxLayout;
+class QStackedWidget;
+class QToolButton;
+
+namespace vl {
+
+class AppContext;
+class FilterSheet;
+class JobDetailView;
+class LedgerDelegate;
+
+// The board of vacancies with the listing open beside it. The screen binds BoardModel to the
+// widgets and forwards what the reader does; the rules live in the model and the ledger.
+class BoardScreen : public QWidget {
+    Q_OBJECT
+public:
+    explicit BoardScreen(AppContext& context, QWidget* parent = nullptr);
+
+    BoardModel& model() { return m_model; }
+    LedgerModel& ledger() { return m_ledger; }
+
+Q_SIGNALS:
+    // The first rows of the board have been painted.
+    void firstPageDrawn();
+    // The plus action, for an anonymous reader: the employer's sign-in.
+    void signInRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget* buildHead();
+    QWidget* buildBody();
+    void retext();
+    void refresh();
+    void refreshRails();
+    void refreshFresh();
+    void loadFirst(bool fresh);
+    void reload();
+    void maybeLoadMore();
+    void followSelection();
+    void openFilters();
+    void openPostGate();
+
+    AppContext& m_context;
+    BoardModel m_model;
+    LedgerModel m_ledger;
+    LedgerDelegate* m_delegate = nullptr;
+    QLineEdit* m_search = nullptr;
+    QPushButton* m_filters = nullptr;
+    QPushButton* m_post = nullptr;
+    std::vector<QToolButton*> m_chips;
+    QLabel* m_headline = nullptr;
+    QLabel* m_nudge = nullptr;
+    QWidget* m_fresh = nullptr;
+    QLabel* m_freshTitle = nullptr;
+    QHBoxLayout* m_freshRow = nullptr;
+    QLabel* m_categoriesTitle = nullptr;
+    QScrollArea* m_freshArea = nullptr;
+    QScrollArea* m_categoriesArea = nullptr;
+    QScrollArea* m_citiesArea = nullptr;
+    QHBoxLayout* m_categoriesRow = nullptr;
+    QLabel* m_citiesTitle = nullptr;
+    QHBoxLayout* m_citiesRow = nullptr;
+    QStackedWidget* m_states = nullptr;
+    QListView* m_list = nullptr;
+    QLabel* m_empty = nullptr;
+    QLabel* m_errorTitle = nullptr;
+    QLabel* m_errorBody = nullptr;
+    QPushButton* m_retry = nullptr;
+    JobDetailView* m_detail = nullptr;
+    QPointer<FilterSheet> m_filterSheet;
+    bool m_drawn = false;
+    bool m_selecting = false;
+};
+
+} // namespace vl

@@ -1,0 +1,113 @@
+#include "app/discovery/SavedScreen.h"
+
+#include "app/kit/Theme.h"
+#include "app/shell/AppContext.h"
+#include "core/l10n/L10n.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace vl {
+
+using L10n::Key;
+
+SavedScreen::SavedScreen(AppContext& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+{
+    setObjectName(QStringLiteral("vl.saved"));
+    m_title = new QLabel(this);
+    m_title->setObjectName(QStringLiteral("vl.saved.title"));
+    Theme::setRole(m_title, "title");
+
+    m_states = new QStackedWidget(this);
+    m_list = new QListWidget(m_states);
+    m_list->setObjectName(QStringLiteral("vl.saved.list"));
+    Theme::setRole(m_list, "ledger");
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_list->setSpacing(2);
+    m_list->installEventFilter(this);
+    connect(m_list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+        m_context.router.selectJob(item->data(Qt::UserRole).toString());
+    });
+    connect(m_list, &QListWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (!m_list->itemAt(at))
+            return;
+        QMenu menu(this);
+        menu.setObjectName(QStringLiteral("vl.saved.menu"));
+        QAction* remove = menu.addAction(L10n::text(Key::macRemove, m_context.appState.lang()));
+        connect(remove, &QAction::triggered, this, &SavedScreen::removeSelected);
+        menu.exec(m_list->viewport()->mapToGlobal(at));
+    });
+    m_states->addWidget(m_list);
+
+    m_empty = new QLabel(m_states);
+    m_empty->setObjectName(QStringLiteral("vl.saved.empty"));
+    m_empty->setAlignment(Qt::AlignCenter);
+    m_empty->setWordWrap(true);
+    m_empty->setContentsMargins(60, 0, 60, 80);
+    Theme::setRole(m_empty, "subtitle");
+    m_states->addWidget(m_empty);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 20, 24, 12);
+    layout->setSpacing(12);
+    layout->addWidget(m_title);
+    layout->addWidget(m_states, 1);
+
+    connect(&context.saved, &SavedJobs::changed, this, &SavedScreen::rebuild);
+    connect(&context.appState, &AppState::langChanged, this, &SavedScreen::retext);
+    connect(&context.taxonomy, &Taxonomy::changed, this, &SavedScreen::rebuild);
+    retext();
+}
+
+void SavedScreen::retext()
+{
+    const Lang lang = m_context.appState.lang();
+    m_title->setText(L10n::text(Key::savedJobs, lang));
+    m_empty->setText(QStringLiteral("☆\n\n") + L10n::text(Key::savedEmpty, lang));
+    rebuild();
+}
+
+void SavedScreen::rebuild()
+{
+    const Lang lang = m_context.appState.lang();
+    m_list->clear();
+    for (const SavedJobs::Entry& entry : m_context.saved.entries()) {
+        auto* item = new QListWidgetItem(
+            QStringLiteral("%1\n%2  ·  %3")
+                .arg(entry.title, entry.employer, m_context.taxonomy.cityLabel(entry.city, lang)),
+            m_list);
+        item->setData(Qt::UserRole, entry.ref);
+        item->setSizeHint(QSize(0, 56));
+    }
+    m_states->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
+}
+
+void SavedScreen::removeSelected()
+{
+    QStringList refs;
+    for (const QListWidgetItem* item : m_list->selectedItems())
+        refs << item->data(Qt::UserRole).toString();
+    for (const QString& ref : refs)
+        m_context.saved.remove(ref);
+}
+
+bool SavedScreen::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_list && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Delete || key == Qt::Key_Backspace) {
+            removeSelected();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace vl

@@ -1,0 +1,62 @@
+#include "app/shell/InstanceChannel.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+
+namespace vl {
+
+namespace {
+
+constexpr int handOverTimeoutMs = 1000;
+
+} // namespace
+
+InstanceChannel::InstanceChannel(const QString& site, QObject* parent)
+    : QObject(parent)
+{
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folder.isEmpty())
+        folder = QDir::tempPath();
+    const QByteArray digest =
+        QCryptographicHash::hash(site.toUtf8(), QCryptographicHash::Sha256).toHex().left(12);
+    m_path = folder + QStringLiteral("/velmora-") + QString::fromLatin1(digest) +
+             QStringLiteral(".sock");
+}
+
+bool InstanceChannel::handOver(const QString& link) const
+{
+    QLocalSocket socket;
+    socket.connectToServer(m_path);
+    if (!socket.waitForConnected(handOverTimeoutMs))
+        return false;
+    socket.write(link.toUtf8() + '\n');
+    if (!socket.waitForBytesWritten(handOverTimeoutMs))
+        return false;
+    socket.disconnectFromServer();
+    if (socket.state() != QLocalSocket::UnconnectedState)
+        socket.waitForDisconnected(handOverTimeoutMs);
+    return true;
+}
+
+bool InstanceChannel::listen()
+{
+    // Nobody answered handOver, so a socket file left here belongs to a client that crashed.
+    QLocalServer::removeServer(m_path);
+    m_server = new QLocalServer(this);
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(m_server, &QLocalServer::newConnection, this, [this] {
+        while (QLocalSocket* socket = m_server->nextPendingConnection()) {
+            connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+            connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
+                while (socket->canReadLine())
+                    Q_EMIT linkReceived(QString::fromUtf8(socket->readLine()).trimmed());
+            });
+        }
+    });
+    return m_server->listen(m_path);
+}
+
+} // namespace vl
