@@ -372,6 +372,11 @@ void MainWindow::openOnSite(const QString& path)
         QUrl(m_context.site() + QLatin1Char('/') + rawValue(m_context.appState.lang()) + path));
 }
 
+BoardScreen* MainWindow::board() const
+{
+    return m_board;
+}
+
 void MainWindow::openSignIn()
 {
     if (m_gateClosed)

@@ -32,7 +32,8 @@ public:
     // Opens the employer's sign-in sheet over the window, or brings the open one forward.
     void openSignIn();
 
-    BoardScreen* board() const { return m_board; }
+    // The board, while the shell stands.
+    BoardScreen* board() const;
 
 Q_SIGNALS:
     // The board's first rows have been painted.
@@ -75,12 +76,13 @@ private:
     QAction* m_support = nullptr;
     QAction* m_terms = nullptr;
     QAction* m_privacy = nullptr;
-    QFrame* m_sidebar = nullptr;
-    QListWidget* m_sections = nullptr;
-    QStackedWidget* m_pages = nullptr;
-    BoardScreen* m_board = nullptr;
-    SavedScreen* m_saved = nullptr;
-    QLabel* m_placeholder = nullptr;
+    // The shell's parts go when the update gate closes; everything after must find them gone.
+    QPointer<QFrame> m_sidebar;
+    QPointer<QListWidget> m_sections;
+    QPointer<QStackedWidget> m_pages;
+    QPointer<BoardScreen> m_board;
+    QPointer<SavedScreen> m_saved;
+    QPointer<QLabel> m_placeholder;
     bool m_showingSections = false;
     QActionGroup* m_languages = nullptr;
     QPointer<LoginSheet> m_loginSheet;
