@@ -272,6 +272,21 @@ TEST_F(BoardScreenTest, TheFilterSheetCountsLiveAndClearKeepsTheSearch)
     EXPECT_FALSE(sheet->isVisible());
 }
 
+TEST_F(BoardScreenTest, ThePlusActionAsksAnAnonymousReaderToSignIn)
+{
+    part<QPushButton>(window, QStringLiteral("vl.board.post"))->click();
+    auto* gate = part<QDialog>(window, QStringLiteral("vl.postGate"));
+    ASSERT_TRUE(gate && gate->isVisible());
+    EXPECT_EQ(part<QLabel>(*gate, QStringLiteral("vl.postGate.text"))->text(),
+              L10n::text(Key::signInToPost, Lang::en));
+    saveScreenshot(&window, QStringLiteral("post-gate-en"));
+    part<QPushButton>(*gate, QStringLiteral("vl.postGate.signIn"))->click();
+    EXPECT_FALSE(gate->isVisible());
+    auto* sheet = part<QDialog>(window, QStringLiteral("vl.loginSheet"));
+    ASSERT_TRUE(sheet && sheet->isVisible());
+    EXPECT_FALSE(context->nav.showPostVacancy());
+}
+
 TEST_F(BoardScreenTest, TheEmptyAndFailedBoards)
 {
     part<QLineEdit>(window, QStringLiteral("vl.board.search"))
