@@ -267,6 +267,7 @@ QWidget* BoardScreen::buildBody()
     m_list->setItemDelegate(m_delegate);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
     m_list->setLayoutMode(QListView::Batched);
     m_list->setBatchSize(200);

@@ -2,7 +2,6 @@
 
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
-#include "core/format/Format.h"
 #include "core/l10n/L10n.h"
 
 #include <QDesktopServices>
@@ -226,7 +225,7 @@ void JobDetailView::show()
     QStringList gig;
     if (job->gigDate)
         gig << L10n::text(Key::gigDate, lang) + QStringLiteral(": ") +
-                   Format::date(job->gigDate, lang);
+                   JobDetailRules::dateText(job->gigDate, lang);
     if (job->gigHours)
         gig << L10n::text(Key::gigHours, lang, *job->gigHours);
     m_gig->setText(gig.join(QStringLiteral("  ·  ")));

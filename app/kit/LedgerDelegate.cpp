@@ -51,10 +51,11 @@ LedgerDelegate::LedgerDelegate(QObject* parent)
 {
 }
 
-QSize LedgerDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+// Rows ask for no width of their own; the list gives each the viewport's.
+QSize LedgerDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const
 {
     const bool head = index.data(LedgerModel::IsHeadRole).toBool();
-    return {option.rect.width(), head ? headHeight : jobHeight};
+    return {1, head ? headHeight : jobHeight};
 }
 
 void LedgerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

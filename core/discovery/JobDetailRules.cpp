@@ -11,10 +11,19 @@ namespace {
 
 QString withDate(Key key, const std::optional<QString>& date, Lang lang)
 {
-    return L10n::text(key, lang).replace(QLatin1StringView("{date}"), Format::date(date, lang));
+    return L10n::text(key, lang).replace(QLatin1StringView("{date}"), dateText(date, lang));
 }
 
 } // namespace
+
+QString dateText(const std::optional<QString>& text, Lang lang)
+{
+    // A calendar date names a day, not an instant: read at noon UTC it stays the same day on
+    // every reader's clock.
+    if (text && text->size() == 10 && QDate::fromString(*text, Qt::ISODate).isValid())
+        return Format::date(*text + QStringLiteral("T12:00:00Z"), lang);
+    return Format::date(text, lang);
+}
 
 Action action(const JobDetail& job)
 {

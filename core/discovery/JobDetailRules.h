@@ -29,6 +29,10 @@ std::optional<L10n::Key> actionButton(Action action);
 // The amount and the pay period, or "Negotiable" with neither amount.
 QString payLine(std::optional<int> min, std::optional<int> max, const QString& payType, Lang lang);
 
+// A date of the listing, either a calendar date ("2026-10-24") or an internet date-time, as
+// a medium date; "" when unreadable.
+QString dateText(const std::optional<QString>& text, Lang lang);
+
 // The pane's small print in a fixed order: translation, source, direct, featured, deadline,
 // publication and views.
 QStringList notes(const JobDetail& job, Lang lang);

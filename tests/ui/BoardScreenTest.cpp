@@ -272,6 +272,47 @@ TEST_F(BoardScreenTest, TheFilterSheetCountsLiveAndClearKeepsTheSearch)
     EXPECT_FALSE(sheet->isVisible());
 }
 
+TEST_F(BoardScreenTest, TheHiringGroupAndItsBadgesFollowTheEmployersSession)
+{
+    auto* sections = part<QListWidget>(window, QStringLiteral("vl.sidebar.sections"));
+    auto rowOf = [&](MacSection section) -> QListWidgetItem* {
+        for (int i = 0; i < sections->count(); ++i) {
+            if (sections->item(i)->data(SidebarDelegate::SectionRole).toString() ==
+                rawValue(section))
+                return sections->item(i);
+        }
+        return nullptr;
+    };
+    EXPECT_EQ(rowOf(MacSection::listings), nullptr);
+    EXPECT_EQ(sections->count(), 3 + 9);
+
+    const QString address = QStringLiteral("hr@batumibay.ge");
+    ASSERT_TRUE(wait(context->api().authRequest(address, Lang::en, nullptr)));
+    const auto verified =
+        wait(context->api().authVerify(address, sandbox.lastCode(address), nullptr));
+    ASSERT_TRUE(verified);
+    wait(context->auth.signedIn(verified->token));
+    ASSERT_TRUE(context->auth.me());
+    ASSERT_NE(rowOf(MacSection::listings), nullptr);
+    EXPECT_EQ(sections->count(), 4 + 11);
+    EXPECT_EQ(rowOf(MacSection::listings)->data(SidebarDelegate::BadgeRole).toInt(),
+              context->auth.me()->pendingListings.value_or(0));
+    EXPECT_EQ(rowOf(MacSection::applicants)->data(SidebarDelegate::BadgeRole).toInt(),
+              context->auth.me()->newApplications.value_or(0));
+    context->inbox.setUnread(4);
+    EXPECT_EQ(rowOf(MacSection::inbox)->data(SidebarDelegate::BadgeRole).toInt(), 4);
+    EXPECT_EQ(rowOf(MacSection::saved)->data(SidebarDelegate::BadgeRole).toInt(), 0);
+    EXPECT_FALSE(label("vl.board.nudge")->isVisible());
+    saveScreenshot(&window, QStringLiteral("sidebar-hiring-en"));
+
+    // Standing on a hiring section when the session ends leaves for the board.
+    selectSection(MacSection::applicants);
+    EXPECT_EQ(context->nav.section(), MacSection::applicants);
+    context->auth.clearSession();
+    EXPECT_EQ(rowOf(MacSection::listings), nullptr);
+    EXPECT_EQ(context->nav.section(), MacSection::vacancies);
+}
+
 TEST_F(BoardScreenTest, ThePlusActionAsksAnAnonymousReaderToSignIn)
 {
     part<QPushButton>(window, QStringLiteral("vl.board.post"))->click();

@@ -80,13 +80,19 @@ TEST(JobDetailRules, NotesFollowTheListingsFlags)
     job.featured = true;
     job.views = 12;
     job.publishedAt = QStringLiteral("2026-03-01T09:00:00Z");
+    job.deadline = QStringLiteral("2026-10-24");
     const QStringList lines = notes(job, Lang::en);
-    ASSERT_EQ(lines.size(), 6);
+    ASSERT_EQ(lines.size(), 7);
     EXPECT_EQ(lines[0], L10n::text(Key::translatedNote, Lang::en));
     EXPECT_EQ(lines[1], QStringLiteral("Sourced from a third-party listing."));
     EXPECT_TRUE(lines[2].startsWith(QStringLiteral("Direct · Posted here by the employer.")));
     EXPECT_EQ(lines[3], QStringLiteral("Featured"));
-    EXPECT_TRUE(lines[4].startsWith(QStringLiteral("Posted ")));
-    EXPECT_FALSE(lines[4].contains(QStringLiteral("{date}")));
-    EXPECT_EQ(lines[5], QStringLiteral("12 views"));
+    // The deadline is a calendar date, the publication an instant; both read as dates.
+    EXPECT_TRUE(lines[4].startsWith(QStringLiteral("Apply by ")));
+    EXPECT_TRUE(lines[4].contains(QStringLiteral("24"))) << lines[4].toStdString();
+    EXPECT_TRUE(lines[5].startsWith(QStringLiteral("Posted ")));
+    EXPECT_GT(lines[5].size(), QStringLiteral("Posted ").size());
+    EXPECT_EQ(lines[6], QStringLiteral("12 views"));
+    EXPECT_EQ(dateText(QStringLiteral("2026-13-01"), Lang::en), QString());
+    EXPECT_EQ(dateText(std::nullopt, Lang::en), QString());
 }
