@@ -99,6 +99,32 @@ protected:
 
 } // namespace
 
+TEST_F(BoardScreenTest, TheLedgerShowsDayHeadsWithTheirCounts)
+{
+    const LedgerModel& ledger = window.board()->ledger();
+    int firstHead = -1;
+    for (int row = 0; row < ledger.rowCount() && firstHead < 0; ++row) {
+        if (!ledger.jobAt(row))
+            firstHead = row;
+    }
+    ASSERT_GE(firstHead, 0);
+    const QModelIndex head = ledger.index(firstHead);
+    EXPECT_EQ(head.flags(), Qt::NoItemFlags);
+    const QString text = head.data(LedgerModel::HeadTextRole).toString();
+    EXPECT_TRUE(text == QStringLiteral("Posted here this week") ||
+                text == QStringLiteral("Today") || text == QStringLiteral("Yesterday") ||
+                text == QStringLiteral("This week") || text == QStringLiteral("Earlier"))
+        << text.toStdString();
+    list()->scrollTo(head, QAbstractItemView::PositionAtTop);
+    saveScreenshot(&window, QStringLiteral("board-heads-en"));
+
+    // Scrolling to the end asks for the next page, which arrives below the rows already there.
+    const size_t firstPage = board().items().size();
+    list()->scrollToBottom();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().items().size() > firstPage; }, 5000));
+    EXPECT_EQ(board().page(), 2);
+}
+
 TEST_F(BoardScreenTest, SearchPickOpenStarAndFindItUnderSaved)
 {
     const int everything = board().total();
