@@ -1,5 +1,6 @@
 #include "app/discovery/SavedScreen.h"
 
+#include "app/kit/SavedRowDelegate.h"
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
@@ -30,7 +31,9 @@ SavedScreen::SavedScreen(AppContext& context, QWidget* parent)
     Theme::setRole(m_list, "ledger");
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_list->setSpacing(2);
+    m_list->setItemDelegate(new SavedRowDelegate(m_list));
+    m_list->setMouseTracking(true);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->installEventFilter(this);
     connect(m_list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
         m_context.router.selectJob(item->data(Qt::UserRole).toString());
@@ -79,12 +82,12 @@ void SavedScreen::rebuild()
     const Lang lang = m_context.appState.lang();
     m_list->clear();
     for (const SavedJobs::Entry& entry : m_context.saved.entries()) {
-        auto* item = new QListWidgetItem(
-            QStringLiteral("%1\n%2  ·  %3")
-                .arg(entry.title, entry.employer, m_context.taxonomy.cityLabel(entry.city, lang)),
-            m_list);
+        const QString place = entry.employer + QStringLiteral("  ·  ") +
+                              m_context.taxonomy.cityLabel(entry.city, lang);
+        auto* item = new QListWidgetItem(entry.title + QLatin1Char('\n') + place, m_list);
         item->setData(Qt::UserRole, entry.ref);
-        item->setSizeHint(QSize(0, 56));
+        item->setData(SavedRowDelegate::TitleRole, entry.title);
+        item->setData(SavedRowDelegate::PlaceRole, place);
     }
     m_states->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
 }
