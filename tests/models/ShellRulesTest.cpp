@@ -149,7 +149,8 @@ TEST(Session, ClearingForgetsTheEmployerAndOnlyAnAdoptedJobSeeker)
     EXPECT_FALSE(context->candidate.adoptedFromEmployer());
     EXPECT_EQ(context->inbox.unread(), 0);
     // The cookie goes after the service's logout, which cannot be reached here.
-    QTest::qWaitFor([&] { return jar.cookiesForUrl(QUrl(deadSite)).size() < 2; }, 5000);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return jar.cookiesForUrl(QUrl(deadSite)).size() < 2; }, 5000));
     const auto left = jar.cookiesForUrl(QUrl(deadSite));
     ASSERT_EQ(left.size(), 1);
     EXPECT_EQ(left.first().name(), QByteArray("theme"));
