@@ -4,6 +4,8 @@
 #include "app/conversations/InboxState.h"
 #include "app/hiring/QuotaStore.h"
 #include "app/identity/CandidateAuth.h"
+#include "app/identity/CandidateStore.h"
+#include "app/identity/SeekerStore.h"
 #include "app/platform/PasskeyAuthenticator.h"
 #include "app/platform/Preferences.h"
 #include "app/platform/SecretStore.h"
@@ -66,6 +68,8 @@ public:
     AppState appState;
     CookieVault cookies;
     CandidateAuth candidate;
+    CandidateStore candidateStore;
+    SeekerStore seekerStore;
     InboxState inbox;
     QuotaStore quota;
     CallCenter calls;
