@@ -104,6 +104,14 @@ QUrl CandidateAuth::oauthUrl(Lang lang) const
                 rawValue(lang));
 }
 
+bool CandidateAuth::receiveCallback(const QUrl& url)
+{
+    if (url.scheme() != QLatin1StringView("velm"))
+        return false;
+    Q_EMIT callbackReceived(url);
+    return true;
+}
+
 void CandidateAuth::completeSignIn(const QString& email)
 {
     m_email = email;

@@ -47,6 +47,10 @@ public:
     // Where the browser sign-in starts; it comes back through a velm: link.
     QUrl oauthUrl(Lang lang) const;
 
+    // A velm: link that the browser sign-in came back with, handed over by the desktop; the open
+    // sign-in form takes it. False for any other link.
+    bool receiveCallback(const QUrl& url);
+
     void completeSignIn(const QString& email);
     void markAdopted();
     // Signs out here at once: the address and the adoption mark go, and the choice is
@@ -81,6 +85,7 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void callbackReceived(const QUrl& url);
 
 private:
     template <class T>

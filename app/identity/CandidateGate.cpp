@@ -16,6 +16,8 @@ CandidateGate::CandidateGate(CandidateAuth& auth, AppState& appState, UrlOpener 
     , m_appState(appState)
     , m_openUrl(std::move(openUrl))
 {
+    connect(&m_auth, &CandidateAuth::callbackReceived, this,
+            [this](const QUrl& url) { handleCallback(url); });
 }
 
 QString CandidateGate::groupedTotpSecret() const
