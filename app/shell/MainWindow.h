@@ -11,6 +11,8 @@ class QActionGroup;
 class QMenu;
 class QStackedWidget;
 
+class QDialog;
+
 namespace vl {
 
 class AppContext;
@@ -32,6 +34,8 @@ private:
     QWidget* buildShell();
     void retext();
     void closeGateIfRequired();
+    // The job seeker's sign-in in front of the account, or the account itself.
+    void openAccount(bool signInFirst);
 
     AppContext& m_context;
     AccountMenuModel m_account;
@@ -43,6 +47,7 @@ private:
     QAction* m_quit = nullptr;
     QActionGroup* m_languages = nullptr;
     QPointer<LoginSheet> m_loginSheet;
+    QPointer<QDialog> m_accountSheet;
     bool m_gateClosed = false;
 };
 
