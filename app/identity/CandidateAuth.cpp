@@ -331,7 +331,7 @@ QCoro::Task<PasskeyResult<QString>> CandidateAuth::signInWithPasskey()
         co_return *failure;
     if (!self)
         co_return PasskeyError{APIError::network()};
-    auto done = co_await postFactor<Done>(
+    auto done = co_await postFactor<candidateReply::Done>(
         QStringLiteral("/api/candidate/passkey/verify"),
         assertionBody("nonce", options->nonce, std::get<PasskeyAssertion>(outcome)));
     if (!done)

@@ -40,11 +40,6 @@ struct Adopted {
     VL_JSON_FIELDS(Adopted, email)
 };
 
-struct Done {
-    QString email;
-    VL_JSON_FIELDS(Done, email)
-};
-
 struct FactorState {
     bool enrolled = false;
     QString email;
@@ -85,6 +80,13 @@ struct Options {
 };
 
 namespace candidateReply {
+
+// The passkey sign-in's answer; beside the general Done of other operations, hence its own
+// namespace.
+struct Done {
+    QString email;
+    VL_JSON_FIELDS(Done, email)
+};
 
 // Calls under /api/app/v1: an envelope that says no without a code reads as a wrong code, and
 // so does one that says yes without data. The status plays no part once the body decodes.
