@@ -1,4 +1,5 @@
 #include "app/cli/ApiCommand.h"
+#include "app/cli/CandidateCommand.h"
 #include "app/cli/CliOutput.h"
 #include "app/cli/ShellCommands.h"
 #include "app/cli/TextsCommand.h"
@@ -25,7 +26,10 @@ QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args)
         co_return co_await runBoot(context);
     if (command == QLatin1StringView("employer"))
         co_return co_await runEmployer(context, args);
-    co_return printUsage(QStringLiteral("usage: velmora-cli api|boot|lang|employer|texts ..."));
+    if (command == QLatin1StringView("candidate"))
+        co_return co_await runCandidate(context, args);
+    co_return printUsage(
+        QStringLiteral("usage: velmora-cli api|boot|lang|employer|candidate|texts ..."));
 }
 
 } // namespace

@@ -5,10 +5,14 @@
 #include "app/shell/AppState.h"
 #include "core/l10n/L10n.h"
 
+#include <QActionGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace vl {
@@ -36,6 +40,9 @@ AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* p
     , m_role(new QLabel(this))
     , m_signIn(new QPushButton(this))
     , m_signOut(new QPushButton(this))
+    , m_seekerSignIn(new QLabel(this))
+    , m_more(new QToolButton(this))
+    , m_menu(new QMenu(this))
 {
     setObjectName(QStringLiteral("vl.account"));
     Theme::setRole(this, "account");
@@ -51,6 +58,16 @@ AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* p
     Theme::setRole(m_signIn, "primary");
     m_signOut->setObjectName(QStringLiteral("vl.account.signOut"));
     Theme::setRole(m_signOut, "link");
+    m_seekerSignIn->setObjectName(QStringLiteral("vl.account.seekerSignIn"));
+    // A link that wraps: the job seeker's way in is a long phrase in Georgian and Russian.
+    m_seekerSignIn->setWordWrap(true);
+    m_seekerSignIn->setTextFormat(Qt::RichText);
+    m_seekerSignIn->setCursor(Qt::PointingHandCursor);
+    m_more->setObjectName(QStringLiteral("vl.account.more"));
+    m_more->setText(QStringLiteral("⋯"));
+    m_more->setPopupMode(QToolButton::InstantPopup);
+    m_more->setMenu(m_menu);
+    m_menu->setObjectName(QStringLiteral("vl.account.menu"));
 
     auto* lines = new QVBoxLayout;
     lines->setSpacing(2);
@@ -60,6 +77,7 @@ AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* p
     who->setSpacing(10);
     who->addWidget(m_avatar, 0, Qt::AlignVCenter);
     who->addLayout(lines, 1);
+    who->addWidget(m_more, 0, Qt::AlignVCenter);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 16);
@@ -68,10 +86,16 @@ AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* p
     layout->addStretch(1);
     layout->addLayout(who);
     layout->addWidget(m_signIn);
+    layout->addWidget(m_seekerSignIn);
     layout->addWidget(m_signOut, 0, Qt::AlignLeft);
 
     connect(m_signIn, &QPushButton::clicked, this, &AccountMenu::signInRequested);
-    connect(m_signOut, &QPushButton::clicked, this, &AccountMenu::confirmSignOut);
+    connect(m_signOut, &QPushButton::clicked, this, [this] {
+        if (const auto entry = m_model.employerSignOut())
+            confirmSignOut(*entry);
+    });
+    connect(m_seekerSignIn, &QLabel::linkActivated, this, &AccountMenu::seekerSignInRequested);
+    connect(m_menu, &QMenu::aboutToShow, this, &AccountMenu::fillMenu);
     connect(&m_model, &AccountMenuModel::changed, this, &AccountMenu::retext);
     connect(&m_appState, &AppState::langChanged, this, &AccountMenu::retext);
     retext();
@@ -98,9 +122,70 @@ void AccountMenu::retext()
     const auto signOut = m_model.employerSignOut();
     m_signOut->setText(signOut ? L10n::text(*signOut, lang) : QString());
     m_signOut->setVisible(signOut.has_value());
+    m_seekerSignIn->setText(QStringLiteral("<a href=\"velmora:seeker\" style=\"color:#1e7f74; "
+                                           "text-decoration:none\">") +
+                            L10n::text(L10n::Key::fySignInSeeker, lang).toHtmlEscaped() +
+                            QStringLiteral("</a>"));
+    m_seekerSignIn->setVisible(m_model.offersSeekerSignIn());
+    m_more->setToolTip(L10n::text(L10n::Key::macYourAccount, lang));
+    m_more->setVisible(!signedOut);
+    fillMenu();
+    fitHeight();
 }
 
-void AccountMenu::confirmSignOut()
+void AccountMenu::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    fitHeight();
+}
+
+bool AccountMenu::event(QEvent* event)
+{
+    const bool handled = QFrame::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        fitHeight();
+    return handled;
+}
+
+void AccountMenu::fitHeight()
+{
+    const int needed = layout()->totalHeightForWidth(width());
+    if (needed > 0 && minimumHeight() != needed)
+        setMinimumHeight(needed);
+}
+
+void AccountMenu::fillMenu()
+{
+    using L10n::Key;
+    const Lang lang = m_appState.lang();
+    m_menu->clear();
+    m_menu->addSection(L10n::text(Key::macWorkingAs, lang));
+    auto* roles = new QActionGroup(m_menu);
+    const QString current = m_model.workingAs();
+    for (const auto& [key, raw] : {std::pair{Key::roleWork, QStringLiteral("work")},
+                                   std::pair{Key::roleHiring, QStringLiteral("hiring")}}) {
+        QAction* role = m_menu->addAction(L10n::text(key, lang));
+        role->setObjectName(QStringLiteral("vl.account.role.") + raw);
+        role->setCheckable(true);
+        role->setChecked(current == raw);
+        roles->addAction(role);
+        connect(role, &QAction::triggered, this, [this, raw] { m_model.setWorkingAs(raw); });
+    }
+    const auto entries = m_model.signOutEntries();
+    if (!entries.empty())
+        m_menu->addSeparator();
+    for (const Key entry : entries) {
+        QAction* action = m_menu->addAction(L10n::text(entry, lang));
+        action->setObjectName(QStringLiteral("vl.account.") + L10n::keyName(entry));
+        connect(action, &QAction::triggered, this, [this, entry] { confirmSignOut(entry); });
+    }
+    m_menu->addSeparator();
+    QAction* account = m_menu->addAction(L10n::text(Key::tabAccount, lang));
+    account->setObjectName(QStringLiteral("vl.account.open"));
+    connect(account, &QAction::triggered, this, &AccountMenu::accountRequested);
+}
+
+void AccountMenu::confirmSignOut(L10n::Key entry)
 {
     const Lang lang = m_appState.lang();
     auto* ask =
@@ -117,9 +202,9 @@ void AccountMenu::confirmSignOut()
         ask->addButton(L10n::text(L10n::Key::rateLater, lang), QMessageBox::RejectRole);
     no->setObjectName(QStringLiteral("vl.account.signOutConfirm.no"));
     ask->setDefaultButton(no);
-    connect(ask, &QMessageBox::buttonClicked, this, [this, yes](QAbstractButton* clicked) {
+    connect(ask, &QMessageBox::buttonClicked, this, [this, yes, entry](QAbstractButton* clicked) {
         if (clicked == yes)
-            m_model.signOutEmployer();
+            m_model.signOut(entry);
     });
     ask->open();
 }

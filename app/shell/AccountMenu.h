@@ -1,17 +1,22 @@
 #pragma once
 
+#include "core/l10n/L10nKey.h"
+
 #include <QFrame>
 
 class QLabel;
+class QMenu;
 class QPushButton;
+class QToolButton;
 
 namespace vl {
 
 class AccountMenuModel;
 class AppState;
 
-// The account area at the sidebar's foot: who is signed in and as what, the employer's way in,
-// and the way out, which asks first.
+// The account area at the sidebar's foot: who is signed in and as what, the ways in for the
+// employer and the job seeker, and a menu with the side the panel shows, the ways out (each
+// asking first) and the account itself.
 class AccountMenu : public QFrame {
     Q_OBJECT
 public:
@@ -19,10 +24,19 @@ public:
 
 Q_SIGNALS:
     void signInRequested();
+    void seekerSignInRequested();
+    void accountRequested();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void retext();
-    void confirmSignOut();
+    // Wrapped lines need their whole height, which the sidebar's layout does not ask for.
+    void fitHeight();
+    void confirmSignOut(L10n::Key entry);
+    void fillMenu();
 
     AccountMenuModel& m_model;
     AppState& m_appState;
@@ -31,6 +45,9 @@ private:
     QLabel* m_role;
     QPushButton* m_signIn;
     QPushButton* m_signOut;
+    QLabel* m_seekerSignIn;
+    QToolButton* m_more;
+    QMenu* m_menu;
 };
 
 } // namespace vl

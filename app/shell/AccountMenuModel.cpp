@@ -1,14 +1,17 @@
 #include "app/shell/AccountMenuModel.h"
 
 #include "app/identity/CandidateAuth.h"
+#include "app/platform/Preferences.h"
 #include "app/shell/AuthManager.h"
 
 namespace vl {
 
-AccountMenuModel::AccountMenuModel(AuthManager& auth, CandidateAuth& candidate, QObject* parent)
+AccountMenuModel::AccountMenuModel(AuthManager& auth, CandidateAuth& candidate,
+                                   Preferences& preferences, QObject* parent)
     : QObject(parent)
     , m_auth(auth)
     , m_candidate(candidate)
+    , m_preferences(preferences)
 {
     connect(&m_auth, &AuthManager::sessionChanged, this, &AccountMenuModel::changed);
     connect(&m_auth, &AuthManager::meChanged, this, &AccountMenuModel::changed);
@@ -53,6 +56,45 @@ std::optional<L10n::Key> AccountMenuModel::employerSignOut() const
 QCoro::Task<> AccountMenuModel::signOutEmployer()
 {
     co_await m_auth.logOut();
+}
+
+bool AccountMenuModel::offersSeekerSignIn() const
+{
+    return !m_candidate.signedIn();
+}
+
+std::vector<L10n::Key> AccountMenuModel::signOutEntries() const
+{
+    using L10n::Key;
+    if (m_auth.hiring() && m_candidate.signedIn())
+        return {Key::macSignOutEmployer, Key::macSignOutSeeker, Key::macSignOutBoth};
+    if (m_auth.hiring() || m_candidate.signedIn())
+        return {Key::signOut};
+    return {};
+}
+
+QCoro::Task<> AccountMenuModel::signOut(L10n::Key entry)
+{
+    using L10n::Key;
+    const bool seeker = entry == Key::macSignOutSeeker || entry == Key::macSignOutBoth ||
+                        (entry == Key::signOut && !m_auth.hiring());
+    const bool employer = entry == Key::macSignOutEmployer || entry == Key::macSignOutBoth ||
+                          (entry == Key::signOut && m_auth.hiring());
+    if (seeker)
+        m_candidate.signOut();
+    if (employer)
+        co_await m_auth.logOut();
+}
+
+QString AccountMenuModel::workingAs() const
+{
+    return m_preferences.string(QStringLiteral("vl.role"));
+}
+
+void AccountMenuModel::setWorkingAs(const QString& role)
+{
+    m_preferences.setValue(QStringLiteral("vl.role"), role);
+    Q_EMIT changed();
 }
 
 } // namespace vl

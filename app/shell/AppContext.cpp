@@ -10,11 +10,25 @@
 
 namespace vl {
 
+namespace {
+
+PlatformBindings completed(PlatformBindings platform)
+{
+    if (!platform.passkeys)
+        platform.passkeys = std::make_unique<NoPasskeyAuthenticator>();
+    return platform;
+}
+
+} // namespace
+
 AppContext::AppContext(PlatformBindings platform)
-    : m_platform(std::move(platform))
+    : m_platform(completed(std::move(platform)))
     , m_api(m_platform.session.get(), m_platform.site, [this] { return auth.token(); })
     , appState(*m_platform.preferences, m_platform.preferredLanguages)
-    , candidate(*m_platform.preferences, *m_platform.session, m_api.site())
+    , cookies(*m_platform.secrets, *m_platform.session, m_api.site())
+    , candidate(*m_platform.preferences, *m_platform.session, *m_platform.passkeys, m_api.site())
+    , candidateStore(*m_platform.secrets)
+    , seekerStore(*m_platform.secrets)
     , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota})
     , taxonomy(m_api, m_platform.build)
     , review(*m_platform.preferences)
@@ -41,6 +55,7 @@ PlatformBindings AppContext::linuxBindings()
 
 QCoro::Task<> AppContext::start()
 {
+    co_await cookies.restore();
     co_await auth.start();
 }
 

@@ -5,10 +5,14 @@
 #include "app/discovery/SavedJobs.h"
 #include "app/hiring/QuotaStore.h"
 #include "app/identity/CandidateAuth.h"
+#include "app/identity/CandidateStore.h"
+#include "app/identity/SeekerStore.h"
+#include "app/platform/PasskeyAuthenticator.h"
 #include "app/platform/Preferences.h"
 #include "app/platform/Scheduler.h"
 #include "app/platform/SecretStore.h"
 #include "app/service/APIClient.h"
+#include "app/service/CookieVault.h"
 #include "app/shell/AppState.h"
 #include "app/shell/AuthManager.h"
 #include "app/shell/MacNav.h"
@@ -29,6 +33,8 @@ struct PlatformBindings {
     std::unique_ptr<SecretStore> secrets;
     std::unique_ptr<QNetworkAccessManager> session;
     std::unique_ptr<Scheduler> scheduler;
+    // None given: this computer has no passkey authenticator.
+    std::unique_ptr<PasskeyAuthenticator> passkeys;
     QStringList preferredLanguages;
     QString site;
     qint64 build = 0;
@@ -51,7 +57,8 @@ public:
     // own origin.
     static PlatformBindings linuxBindings();
 
-    // Reads what the secure store kept from an earlier run. Nothing else reads it before.
+    // Reads what the secure store kept from an earlier run (the service's cookies, the
+    // employer's token). Nothing else reads it before.
     QCoro::Task<> start();
     // The boot: the taxonomy first, then the employer's summary and adoption when a token is
     // held.
@@ -65,7 +72,10 @@ public:
     const QString& site() const { return m_platform.site; }
 
     AppState appState;
+    CookieVault cookies;
     CandidateAuth candidate;
+    CandidateStore candidateStore;
+    SeekerStore seekerStore;
     InboxState inbox;
     QuotaStore quota;
     CallCenter calls;

@@ -76,6 +76,16 @@ QCoro::Task<> AuthManager::logOut()
         clearSession();
 }
 
+QCoro::Task<bool> AuthManager::deleteAccount()
+{
+    QPointer self(this);
+    const auto deleted = co_await m_parts.api.deleteMe(this);
+    if (!deleted || !self)
+        co_return false;
+    clearSession();
+    co_return true;
+}
+
 void AuthManager::clearSession()
 {
     m_token.reset();

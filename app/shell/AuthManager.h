@@ -45,6 +45,8 @@ public:
     // Tells the service, whatever it answers, then forgets the session here.
     QCoro::Task<> logOut();
     void clearSession();
+    // Deletes the employer's account at the service; only then is the session forgotten here.
+    QCoro::Task<bool> deleteAccount();
     // Offers the employer's address to the job seeker side, only while an employer token is
     // held, no job seeker is signed in and the job seeker side was not left on purpose.
     QCoro::Task<> adoptSeekerIdentity();

@@ -4,8 +4,10 @@
 #include "app/discovery/SavedScreen.h"
 #include "app/hiring/LoginSheet.h"
 #include "app/kit/SidebarDelegate.h"
+#include "app/identity/CandidateGateView.h"
 #include "app/kit/Theme.h"
 #include "app/shell/AccountMenu.h"
+#include "app/shell/AccountScreen.h"
 #include "app/shell/AppContext.h"
 #include "app/shell/BuildNumber.h"
 #include "app/shell/UpdateBanner.h"
@@ -20,6 +22,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -47,7 +50,7 @@ constexpr LanguageChoice languageChoices[] = {
 MainWindow::MainWindow(AppContext& context, QWidget* parent)
     : QMainWindow(parent)
     , m_context(context)
-    , m_account(context.auth, context.candidate)
+    , m_account(context.auth, context.candidate, context.preferences())
     , m_banner(context.taxonomy, context.preferences())
 {
     setObjectName(QStringLiteral("vl.main"));
@@ -107,6 +110,8 @@ QWidget* MainWindow::buildShell()
     });
     auto* account = new AccountMenu(m_account, m_context.appState, sidebar);
     connect(account, &AccountMenu::signInRequested, this, &MainWindow::openSignIn);
+    connect(account, &AccountMenu::seekerSignInRequested, this, [this] { openAccount(true); });
+    connect(account, &AccountMenu::accountRequested, this, [this] { openAccount(false); });
     auto* sideLayout = new QVBoxLayout(sidebar);
     sideLayout->setContentsMargins(0, 0, 0, 0);
     sideLayout->setSpacing(0);
@@ -392,6 +397,37 @@ void MainWindow::openSignIn()
     m_loginSheet->open();
 }
 
+void MainWindow::openAccount(bool signInFirst)
+{
+    if (m_gateClosed)
+        return;
+    if (m_accountSheet)
+        m_accountSheet->close();
+    m_accountSheet = new QDialog(this);
+    m_accountSheet->setObjectName(QStringLiteral("vl.accountSheet"));
+    m_accountSheet->setAttribute(Qt::WA_DeleteOnClose);
+    m_accountSheet->setWindowModality(Qt::WindowModal);
+    m_accountSheet->resize(480, 560);
+    auto* account = new AccountScreen(m_context, m_accountSheet);
+    QWidget* shown = account;
+    if (signInFirst)
+        shown = new CandidateGateView(
+            m_context.candidate, m_context.appState,
+            [](const QUrl& url) { return QDesktopServices::openUrl(url); }, account,
+            m_accountSheet);
+    auto* close =
+        new QPushButton(L10n::text(L10n::Key::close, m_context.appState.lang()), m_accountSheet);
+    close->setObjectName(QStringLiteral("vl.accountSheet.close"));
+    close->setAutoDefault(false);
+    Theme::setRole(close, "quiet");
+    connect(close, &QPushButton::clicked, m_accountSheet, &QDialog::reject);
+    auto* layout = new QVBoxLayout(m_accountSheet);
+    layout->setContentsMargins(0, 0, 0, 12);
+    layout->addWidget(shown, 1);
+    layout->addWidget(close, 0, Qt::AlignHCenter);
+    m_accountSheet->open();
+}
+
 void MainWindow::closeGateIfRequired()
 {
     const auto& gate = m_context.taxonomy.updateRequired();
@@ -400,6 +436,8 @@ void MainWindow::closeGateIfRequired()
     m_gateClosed = true;
     if (m_loginSheet)
         m_loginSheet->reject();
+    if (m_accountSheet)
+        m_accountSheet->reject();
     QWidget* shell = m_root->widget(0);
     auto* screen = new UpdateRequiredScreen(*gate, prereleaseBuild(), m_context.appState, m_root);
     m_root->addWidget(screen);

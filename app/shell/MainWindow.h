@@ -14,6 +14,8 @@ class QListWidget;
 class QMenu;
 class QStackedWidget;
 
+class QDialog;
+
 namespace vl {
 
 class AppContext;
@@ -48,6 +50,8 @@ private:
     void showSection();
     void refreshListingMenu();
     void openOnSite(const QString& path);
+    // The job seeker's sign-in in front of the account, or the account itself.
+    void openAccount(bool signInFirst);
 
     AppContext& m_context;
     AccountMenuModel m_account;
@@ -86,6 +90,7 @@ private:
     bool m_showingSections = false;
     QActionGroup* m_languages = nullptr;
     QPointer<LoginSheet> m_loginSheet;
+    QPointer<QDialog> m_accountSheet;
     bool m_gateClosed = false;
 };
 

@@ -5,6 +5,8 @@
 #include "core/discovery/JobDetail.h"
 #include "core/format/Iso8601.h"
 #include "core/identity/CandidateReplies.h"
+#include "core/identity/OAuthCallback.h"
+#include "core/identity/WebAuthn.h"
 #include "core/service/Answer.h"
 #include "core/service/SmallResults.h"
 #include "core/session/ConfigPayload.h"
@@ -27,11 +29,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         (void)answer::readPage<JobSummary>(bytes, status);
         (void)answer::readChatSend<Done>(bytes, status);
         (void)candidateReply::readEnvelope<Adopted>(bytes, status);
+        (void)candidateReply::readEnvelope<Ticket>(bytes, status);
+        (void)candidateReply::readFactor<FactorState>(bytes, status);
+        (void)candidateReply::readFactor<FactorDone>(bytes, status);
+        (void)candidateReply::readFactor<RegOptions>(bytes, status);
+        (void)candidateReply::readFactor<candidateReply::Done>(bytes, status);
     }
     if (const auto page = answer::readPage<JobSummary>(bytes, 200)) {
         for (const JobSummary& job : page->items)
             (void)job.boardDate();
     }
     (void)parseIso8601(QString::fromUtf8(bytes));
+    (void)parseOAuthCallback(QUrl(QString::fromUtf8(bytes)));
+    (void)decodeChallenge(QString::fromUtf8(bytes));
     return 0;
 }

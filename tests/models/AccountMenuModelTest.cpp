@@ -13,7 +13,7 @@ using L10n::Key;
 TEST(AccountMenuModel, NamesTheIdentitiesAndOffersOnlyTheEmployersWayInOrOut)
 {
     auto context = makeContext({QStringLiteral("http://127.0.0.1:9")});
-    AccountMenuModel model(context->auth, context->candidate);
+    AccountMenuModel model(context->auth, context->candidate, context->preferences());
     EXPECT_TRUE(model.signedOut());
     EXPECT_EQ(model.name(), QString());
     EXPECT_EQ(model.role(), std::nullopt);

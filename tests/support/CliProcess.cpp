@@ -1,5 +1,7 @@
 #include "tests/support/CliProcess.h"
 
+#include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -19,6 +21,10 @@ CliProcess::Run CliProcess::run(const QStringList& args) const
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
                        m_home.filePath(QStringLiteral("config")));
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
+    const QString runtime = m_home.filePath(QStringLiteral("runtime"));
+    QDir().mkpath(runtime);
+    QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(VELMORA_CLI_PATH), args);
     process.waitForFinished(60000);

@@ -21,6 +21,8 @@ public:
         QString err;
     };
     Run run(const QStringList& args) const;
+    // The folder that stands for the user's runtime folder in these runs.
+    QString runtimeFolder() const { return m_home.filePath(QStringLiteral("runtime")); }
 
 private:
     QString m_site;

@@ -14,8 +14,8 @@ namespace {
 
 // A minimal blocking HTTP/1.0 exchange over loopback, so that test scaffolding does not depend on
 // the client's own transport under test.
-QByteArray exchange(quint16 port, const QByteArray& method, const QString& path,
-                    const QByteArray& body)
+QByteArray rawExchange(quint16 port, const QByteArray& method, const QString& path,
+                       const QByteArray& body)
 {
     QTcpSocket socket;
     socket.connectToHost(QStringLiteral("127.0.0.1"), port);
@@ -35,6 +35,13 @@ QByteArray exchange(quint16 port, const QByteArray& method, const QString& path,
         answer += socket.readAll();
     }
     answer += socket.readAll();
+    return answer;
+}
+
+QByteArray exchange(quint16 port, const QByteArray& method, const QString& path,
+                    const QByteArray& body)
+{
+    const QByteArray answer = rawExchange(port, method, path, body);
     const auto split = answer.indexOf("\r\n\r\n");
     return split < 0 ? QByteArray() : answer.mid(split + 4);
 }
@@ -103,6 +110,17 @@ QString SandboxProcess::lastCode(const QString& to) const
 {
     static const QRegularExpression sixDigits(QStringLiteral("\\b(\\d{6})\\b"));
     return sixDigits.match(lastMailBody(to)).captured(1);
+}
+
+QUrl SandboxProcess::oauthCallback(const QString& email) const
+{
+    const QByteArray answer =
+        rawExchange(m_port, "GET",
+                    QStringLiteral("/api/candidate/oauth/pick?app=1&hl=en&email=") +
+                        QString::fromLatin1(QUrl::toPercentEncoding(email)),
+                    {});
+    static const QRegularExpression location(QStringLiteral("(?im)^location:\\s*(\\S+)"));
+    return QUrl(location.match(QString::fromLatin1(answer)).captured(1));
 }
 
 QString SandboxProcess::output()

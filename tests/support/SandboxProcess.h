@@ -29,6 +29,8 @@ public:
     QString lastMailBody(const QString& to) const;
     // The six-digit code in the newest mail to this address.
     QString lastCode(const QString& to) const;
+    // Where the stand-in of the browser sign-in sends the browser after picking this address.
+    QUrl oauthCallback(const QString& email) const;
     // Everything the process printed so far, for a failing test's message.
     QString output();
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/platform/SecretStore.h"
+#include "core/json/Json.h"
+
+#include <QCoroTask>
+#include <vector>
+
+namespace vl {
+
+// A list of records kept as one JSON array in the secure store, newest first. No item, or one
+// that does not read, is an empty list; the next save replaces it. A failed save is not
+// reported: the list in memory stays the truth until the next start.
+template <class Entry>
+class SecretList {
+public:
+    SecretList(SecretStore& secrets, QString account)
+        : m_secrets(secrets)
+        , m_account(std::move(account))
+    {
+    }
+
+    const std::vector<Entry>& entries() const { return m_entries; }
+    bool opened() const { return m_opened; }
+
+    QCoro::Task<> open()
+    {
+        if (m_opened)
+            co_return;
+        const auto kept = co_await m_secrets.get(m_account);
+        if (m_opened)
+            co_return;
+        m_opened = true;
+        if (!kept)
+            co_return;
+        auto read = json::decode<std::vector<Entry>>(kept->toUtf8());
+        // What was added before the store answered stays at the head.
+        if (read)
+            m_entries.insert(m_entries.end(), read->begin(), read->end());
+    }
+
+    QCoro::Task<> add(Entry entry)
+    {
+        m_entries.insert(m_entries.begin(), std::move(entry));
+        co_await m_secrets.set(QString::fromUtf8(json::encode(m_entries)), m_account);
+    }
+
+private:
+    SecretStore& m_secrets;
+    QString m_account;
+    std::vector<Entry> m_entries;
+    bool m_opened = false;
+};
+
+} // namespace vl

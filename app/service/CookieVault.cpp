@@ -1,0 +1,81 @@
+#include "app/service/CookieVault.h"
+
+#include "app/platform/SecretStore.h"
+#include "app/service/SessionCookieJar.h"
+
+#include <QCoroSignal>
+#include <QNetworkAccessManager>
+#include <QNetworkCookie>
+#include <QPointer>
+
+namespace vl {
+
+CookieVault::CookieVault(SecretStore& secrets, QNetworkAccessManager& session, QString site,
+                         QObject* parent)
+    : QObject(parent)
+    , m_secrets(secrets)
+    , m_jar(new SessionCookieJar(&session))
+    , m_site(site)
+{
+    session.setCookieJar(m_jar);
+    connect(m_jar, &SessionCookieJar::changed, this, [this] {
+        if (!m_restoring)
+            save();
+    });
+}
+
+QCoro::Task<> CookieVault::restore()
+{
+    QPointer self(this);
+    const auto kept = co_await m_secrets.get(QString::fromLatin1(storeKey));
+    if (!self || !kept)
+        co_return;
+    const QList<QNetworkCookie> present = m_jar->cookiesForUrl(m_site);
+    QList<QNetworkCookie> restored;
+    const auto lines = kept->split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        for (const QNetworkCookie& cookie : QNetworkCookie::parseCookies(line.toUtf8())) {
+            const bool newer = std::any_of(present.begin(), present.end(), [&](const auto& c) {
+                return c.name() == cookie.name();
+            });
+            if (!newer)
+                restored.append(cookie);
+        }
+    }
+    m_restoring = true;
+    m_jar->setCookiesFromUrl(restored, m_site);
+    m_restoring = false;
+}
+
+QCoro::Task<> CookieVault::settle()
+{
+    QPointer self(this);
+    while (self && m_saving)
+        co_await qCoro(this, &CookieVault::settled);
+}
+
+QCoro::Task<> CookieVault::save()
+{
+    m_dirty = true;
+    if (m_saving)
+        co_return;
+    m_saving = true;
+    QPointer self(this);
+    while (self && m_dirty) {
+        m_dirty = false;
+        QStringList lines;
+        const auto cookies = m_jar->cookiesForUrl(m_site);
+        for (const QNetworkCookie& cookie : cookies)
+            lines.append(QString::fromUtf8(cookie.toRawForm(QNetworkCookie::Full)));
+        if (lines.isEmpty())
+            co_await m_secrets.remove(QString::fromLatin1(storeKey));
+        else
+            co_await m_secrets.set(lines.join(u'\n'), QString::fromLatin1(storeKey));
+    }
+    if (!self)
+        co_return;
+    m_saving = false;
+    Q_EMIT settled();
+}
+
+} // namespace vl
