@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("velmora"));
     QApplication::setApplicationName(QStringLiteral("velmora"));
 
-    // A web link may come as the only argument, from the desktop's URL handler.
+    // A link may come as the only argument, from the desktop's URL handlers.
     const QString link = QApplication::arguments().value(1);
     vl::PlatformBindings bindings = vl::AppContext::linuxBindings();
     vl::InstanceChannel channel(bindings.site);
@@ -53,14 +53,20 @@ int main(int argc, char** argv)
     context.review.countLaunch();
     vl::MainWindow window(context);
     vl::WebLinkHandler links(context.router, context.nav);
+    // A velm: link is the browser sign-in coming back; any other is a web link to route.
+    const auto open = [&context, &links](const QString& received) {
+        if (received.isEmpty())
+            return;
+        const QUrl url(received);
+        if (!context.candidate.receiveCallback(url))
+            links.open(url);
+    };
     QObject::connect(&channel, &vl::InstanceChannel::linkReceived, &window,
-                     [&links, &window](const QString& received) {
-                         if (!received.isEmpty())
-                             links.open(QUrl(received));
+                     [open, &window](const QString& received) {
+                         open(received);
                          bringForward(window);
                      });
-    if (!link.isEmpty())
-        links.open(QUrl(link));
+    open(link);
 
     // For the start-up benchmark only: report when the first board rows are on screen, and end.
     if (qEnvironmentVariableIsSet("VELMORA_BENCH_FIRST_PAGE")) {
