@@ -1,6 +1,7 @@
 #include "app/kit/LedgerDelegate.h"
 
 #include "app/discovery/LedgerModel.h"
+#include "app/kit/Palette.h"
 #include "core/discovery/JobSummary.h"
 #include "core/format/Format.h"
 #include "core/l10n/L10n.h"
@@ -11,12 +12,8 @@ namespace vl {
 
 namespace {
 
-const QColor ink(0x1d, 0x23, 0x29);
-const QColor muted(0x5f, 0x6b, 0x76);
-const QColor accent(0x1e, 0x7f, 0x74);
-const QColor selected(0xe8, 0xf4, 0xf1);
-const QColor hover(0xf6, 0xf8, 0xf9);
-const QColor line(0xee, 0xf1, 0xf3);
+using namespace palette;
+
 const QColor gold(0x9a, 0x6b, 0x0c);
 const QColor goldPaper(0xfb, 0xf1, 0xdc);
 const QColor freshPaper(0xdf, 0xf2, 0xee);
@@ -106,7 +103,7 @@ void LedgerDelegate::paintJob(QPainter* painter, const QStyleOptionViewItem& opt
     } else if (option.state & QStyle::State_MouseOver) {
         painter->fillRect(rect, hover);
     }
-    painter->setPen(line);
+    painter->setPen(rule);
     painter->drawLine(rect.left() + 18, rect.bottom(), rect.right() - 18, rect.bottom());
 
     const QRect content = rect.adjusted(18, 10, -18, -10);

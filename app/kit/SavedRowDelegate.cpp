@@ -1,17 +1,14 @@
 #include "app/kit/SavedRowDelegate.h"
 
+#include "app/kit/Palette.h"
+
 #include <QPainter>
 
 namespace vl {
 
 namespace {
 
-const QColor ink(0x1d, 0x23, 0x29);
-const QColor muted(0x5f, 0x6b, 0x76);
-const QColor accent(0x1e, 0x7f, 0x74);
-const QColor selected(0xe8, 0xf4, 0xf1);
-const QColor hover(0xf6, 0xf8, 0xf9);
-const QColor line(0xee, 0xf1, 0xf3);
+using namespace palette;
 
 } // namespace
 
@@ -31,7 +28,7 @@ void SavedRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     } else if (option.state & QStyle::State_MouseOver) {
         painter->fillRect(rect, hover);
     }
-    painter->setPen(line);
+    painter->setPen(rule);
     painter->drawLine(rect.left() + 14, rect.bottom(), rect.right() - 14, rect.bottom());
 
     const QRect content = rect.adjusted(16, 10, -16, -10);

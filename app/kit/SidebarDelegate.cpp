@@ -1,14 +1,16 @@
 #include "app/kit/SidebarDelegate.h"
 
+#include "app/kit/Palette.h"
+
 #include <QPainter>
 
 namespace vl {
 
 namespace {
 
-const QColor ink(0x1d, 0x23, 0x29);
-const QColor muted(0x5f, 0x6b, 0x76);
-const QColor accent(0x1e, 0x7f, 0x74);
+using palette::accent;
+using palette::ink;
+using palette::muted;
 const QColor chosen(0xdd, 0xee, 0xea);
 const QColor hover(0xe7, 0xeb, 0xef);
 

@@ -1,5 +1,7 @@
 #include "app/kit/Theme.h"
 
+#include "app/kit/Palette.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
@@ -10,14 +12,7 @@ namespace vl {
 
 namespace {
 
-// Colours: ink and paper, the quiet greys of the sidebar and borders, and one teal accent.
-constexpr auto ink = "#1d2329";
-constexpr auto muted = "#5f6b76";
-constexpr auto paper = "#ffffff";
-constexpr auto side = "#f3f5f7";
-constexpr auto line = "#e1e6ea";
-constexpr auto field = "#d3dae0";
-constexpr auto accent = "#1e7f74";
+using namespace palette;
 
 const char* const styleSheet = R"(
 QWidget { color: #1d2329; }
@@ -140,24 +135,24 @@ QMenu::item:selected { background: #e8f4f1; color: #1d2329; }
 QMenu::separator { height: 1px; background: #e1e6ea; margin: 4px 8px; }
 )";
 
-QPalette palette()
+QPalette lightPalette()
 {
     QPalette p;
-    p.setColor(QPalette::Window, QColor(paper));
-    p.setColor(QPalette::WindowText, QColor(ink));
-    p.setColor(QPalette::Base, QColor(paper));
-    p.setColor(QPalette::AlternateBase, QColor(side));
-    p.setColor(QPalette::Text, QColor(ink));
-    p.setColor(QPalette::PlaceholderText, QColor(muted));
-    p.setColor(QPalette::Button, QColor(paper));
-    p.setColor(QPalette::ButtonText, QColor(ink));
-    p.setColor(QPalette::Highlight, QColor(accent));
-    p.setColor(QPalette::HighlightedText, QColor(paper));
-    p.setColor(QPalette::Link, QColor(accent));
-    p.setColor(QPalette::Mid, QColor(line));
-    p.setColor(QPalette::Midlight, QColor(field));
-    p.setColor(QPalette::ToolTipBase, QColor(ink));
-    p.setColor(QPalette::ToolTipText, QColor(paper));
+    p.setColor(QPalette::Window, paper);
+    p.setColor(QPalette::WindowText, ink);
+    p.setColor(QPalette::Base, paper);
+    p.setColor(QPalette::AlternateBase, side);
+    p.setColor(QPalette::Text, ink);
+    p.setColor(QPalette::PlaceholderText, muted);
+    p.setColor(QPalette::Button, paper);
+    p.setColor(QPalette::ButtonText, ink);
+    p.setColor(QPalette::Highlight, accent);
+    p.setColor(QPalette::HighlightedText, paper);
+    p.setColor(QPalette::Link, accent);
+    p.setColor(QPalette::Mid, border);
+    p.setColor(QPalette::Midlight, field);
+    p.setColor(QPalette::ToolTipBase, ink);
+    p.setColor(QPalette::ToolTipText, paper);
     return p;
 }
 
@@ -166,7 +161,7 @@ QPalette palette()
 void Theme::apply(QApplication& app)
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(palette());
+    QApplication::setPalette(lightPalette());
     // Noto Sans has no Georgian letters; naming its Georgian sibling right after it keeps
     // Georgian text in the same family's design instead of whatever fallback the system finds.
     QFont font(QStringLiteral("Noto Sans"));
