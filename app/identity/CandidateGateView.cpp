@@ -5,12 +5,12 @@
 #include "app/shell/AppState.h"
 #include "core/l10n/L10n.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStackedLayout>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace vl {
@@ -44,13 +44,15 @@ QLineEdit* field(QWidget* parent, const char* name)
     return made;
 }
 
-QVBoxLayout* page(QStackedWidget* steps)
+// One page per step, stacked in a plain column with only the current one shown, so that wrapped
+// lines get their height (a stacked widget sizes its pages without it).
+QVBoxLayout* page(QWidget* steps)
 {
     auto* made = new QWidget(steps);
     auto* layout = new QVBoxLayout(made);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    steps->addWidget(made);
+    steps->layout()->addWidget(made);
     return layout;
 }
 
@@ -76,7 +78,9 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
 
     m_title = label(m_form, "vl.gate.title", "title");
     m_body = label(m_form, "vl.gate.body", "subtitle");
-    m_steps = new QStackedWidget(m_form);
+    m_steps = new QWidget(m_form);
+    auto* stepColumn = new QVBoxLayout(m_steps);
+    stepColumn->setContentsMargins(0, 0, 0, 0);
 
     auto* email = page(m_steps);
     m_email = field(m_steps, "vl.gate.email");
@@ -133,7 +137,9 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
 
     auto* totp = page(m_steps);
     m_secretHint = label(m_steps, "vl.gate.secretHint", "caption");
-    m_secret = label(m_steps, "vl.gate.secret", "display");
+    // The key is copied by hand, group by group: one line of even-width characters.
+    m_secret = label(m_steps, "vl.gate.secret", "key");
+    m_secret->setWordWrap(false);
     m_secret->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_thenCode = label(m_steps, "vl.gate.thenCode", "caption");
     m_totpCode = field(m_steps, "vl.gate.totpCode");
@@ -157,6 +163,8 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
     m_busy->setSizePolicy(keepRoom);
 
     auto* column = new QWidget(m_form);
+    // Wide enough for the key on one line, and for the wrapped texts to keep a sane height.
+    column->setMinimumWidth(380);
     column->setMaximumWidth(420);
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -167,10 +175,17 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
     layout->addWidget(m_steps);
     layout->addWidget(m_error);
     layout->addWidget(m_busy);
+    // Centred by stretches rather than alignment, so that the column takes its whole width and
+    // its wrapped lines the height they need at that width.
+    column->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto* across = new QHBoxLayout;
+    across->addStretch(1);
+    across->addWidget(column, 8);
+    across->addStretch(1);
     auto* centred = new QVBoxLayout(m_form);
     centred->setContentsMargins(32, 32, 32, 32);
     centred->addStretch(1);
-    centred->addWidget(column, 0, Qt::AlignHCenter);
+    centred->addLayout(across);
     centred->addStretch(2);
 
     m_pages->addWidget(m_form);
@@ -238,7 +253,8 @@ void CandidateGateView::refresh()
     const bool passkeys = m_gate.passkeysAvailable();
     m_title->setVisible(m_gate.showsIntro && step == Step::email);
     m_body->setVisible(m_gate.showsIntro && step == Step::email);
-    m_steps->setCurrentIndex(int(step));
+    for (int index = 0; index < m_steps->layout()->count(); ++index)
+        m_steps->layout()->itemAt(index)->widget()->setVisible(index == int(step));
     m_passkeyLogin->setVisible(passkeys);
     m_noPasskey->setVisible(passkeys && m_gate.noPasskey());
     m_passkeyCreate->setVisible(passkeys);

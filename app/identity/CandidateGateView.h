@@ -9,7 +9,6 @@ class QLineEdit;
 class QProgressBar;
 class QPushButton;
 class QStackedLayout;
-class QStackedWidget;
 
 namespace vl {
 
@@ -39,7 +38,7 @@ private:
 
     QLabel* m_title;
     QLabel* m_body;
-    QStackedWidget* m_steps;
+    QWidget* m_steps;
     // email
     QLineEdit* m_email;
     QPushButton* m_sendCode;

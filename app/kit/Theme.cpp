@@ -27,6 +27,10 @@ QLabel[vlRole="title"] { color: #1d2329; font-size: 16pt; font-weight: 600; }
 QLabel[vlRole="subtitle"] { color: #5f6b76; font-size: 10pt; }
 QLabel[vlRole="caption"] { color: #5f6b76; font-size: 9pt; }
 QLabel[vlRole="name"] { color: #1d2329; font-weight: 600; }
+QLabel[vlRole="key"] {
+    color: #1d2329; font-family: "DejaVu Sans Mono", "Noto Sans Mono", monospace;
+    font-size: 11pt; font-weight: 600;
+}
 QLabel[vlRole="avatar"] {
     background: #d6ece8; color: #1e7f74; border-radius: 17px; font-weight: 700;
     min-width: 34px; max-width: 34px; min-height: 34px; max-height: 34px;

@@ -13,7 +13,7 @@ public:
     // Sets the style, the palette, the font (with Georgian glyphs) and the shared style sheet.
     static void apply(QApplication& app);
     // Gives a widget one of the sheet's roles: "sidebar", "account", "brand", "display", "title",
-    // "subtitle", "caption", "name", "avatar", "error", "banner", "card", "primary", "link",
+    // "subtitle", "caption", "name", "key", "avatar", "error", "banner", "card", "primary", "link",
     // "quiet", "dismiss", "sections", "busy", "chip", "ticket", "nudge", "tag", "stamp", "section",
     // "ledger", "pane", "plain", "rail", "star".
     static void setRole(QWidget* widget, const char* role);

@@ -407,7 +407,7 @@ void MainWindow::openAccount(bool signInFirst)
     m_accountSheet->setObjectName(QStringLiteral("vl.accountSheet"));
     m_accountSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_accountSheet->setWindowModality(Qt::WindowModal);
-    m_accountSheet->resize(480, 560);
+    m_accountSheet->setFixedSize(480, 560);
     auto* account = new AccountScreen(m_context, m_accountSheet);
     QWidget* shown = account;
     if (signInFirst)
