@@ -87,9 +87,14 @@ TEST_F(BoardModelTest, ASlowOlderAnswerIsDroppedAndTheNewerLoadOwnsLoading)
 
 TEST_F(BoardModelTest, AnOlderLoadStillRunningLeavesLoadingToTheNewer)
 {
+    // The older load is answered after a short wait, the newer one after a long one, so the
+    // older ends first while the newer is still running.
     fault(jobsPath,
-          {{QStringLiteral("mode"), QStringLiteral("slow")}, {QStringLiteral("delay"), 1.0}});
+          {{QStringLiteral("mode"), QStringLiteral("slow")}, {QStringLiteral("delay"), 0.4}});
     auto first = model.load(Lang::en, true, false);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !requests(jobsPath).isEmpty(); }, 5000));
+    fault(jobsPath,
+          {{QStringLiteral("mode"), QStringLiteral("slow")}, {QStringLiteral("delay"), 1.5}});
     auto second = model.load(Lang::en, true, false);
     wait(std::move(first));
     EXPECT_TRUE(model.loading());
