@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(
-  build-essential cmake ninja-build pkg-config clang
+  build-essential cmake ninja-build pkg-config clang ccache
   qt6-base-dev qt6-base-dev-tools qt6-websockets-dev qt6-httpserver-dev
   libqt6sql6-sqlite libqt6svg6 qt6-qpa-plugins
   qcoro-qt6-dev qtkeychain-qt6-dev
