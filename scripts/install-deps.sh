@@ -10,6 +10,7 @@ packages=(
   qcoro-qt6-dev qtkeychain-qt6-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   dbus dbus-x11 gnome-keyring libsecret-tools
+  openssl python3
   xvfb xauth x11-utils imagemagick
   fonts-noto-core fonts-dejavu-core
 )

@@ -1,6 +1,7 @@
 #include "app/identity/CandidateAuth.h"
 
 #include "app/platform/Preferences.h"
+#include "app/service/NetworkSession.h"
 #include "core/identity/WebAuthn.h"
 #include "core/service/JsonBody.h"
 
@@ -138,6 +139,7 @@ QCoro::Task<> CandidateAuth::signOut()
     m_preferences.setValue(declinedKey, true);
     m_email.reset();
     m_preferences.remove(emailKey);
+    forgetCachedAnswers(m_session);
     Q_EMIT changed();
     co_await finishSignOut(push, voip);
 }

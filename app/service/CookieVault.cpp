@@ -28,7 +28,11 @@ QCoro::Task<> CookieVault::restore()
 {
     QPointer self(this);
     const auto kept = co_await m_secrets.get(QString::fromLatin1(storeKey));
-    if (!self || !kept)
+    // A stored text no jar could have written is not read at all; the jar checks the rest
+    // cookie by cookie, as it checks an answer's.
+    constexpr qsizetype storedLimit =
+        SessionCookieJar::totalLimit * (SessionCookieJar::cookieBytesLimit + 1);
+    if (!self || !kept || kept->size() > storedLimit)
         co_return;
     const QList<QNetworkCookie> present = m_jar->cookiesForUrl(m_site);
     QList<QNetworkCookie> restored;

@@ -13,6 +13,20 @@ struct ReplyDeleter {
     void operator()(QNetworkReply* reply) const { reply->deleteLater(); }
 };
 
+// Qt reports an answer with a 4xx or 5xx status as one of these errors; the answer is still
+// whole. Every other error means the exchange broke, whatever part of it had arrived.
+bool isStatusError(QNetworkReply::NetworkError error)
+{
+    if (error == QNetworkReply::ContentReSendError)
+        return false;
+    return (error >= QNetworkReply::ContentAccessDenied &&
+            error <= QNetworkReply::UnknownContentError) ||
+           error == QNetworkReply::ProtocolInvalidOperationError ||
+           error == QNetworkReply::ProxyAuthenticationRequiredError ||
+           (error >= QNetworkReply::InternalServerError &&
+            error <= QNetworkReply::UnknownServerError);
+}
+
 } // namespace
 
 void cancelWithOwner(QNetworkReply* reply, QObject* owner)
@@ -28,15 +42,20 @@ QCoro::Task<HttpExchange> finish(QNetworkReply* raw)
     const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
     if (!status.isValid())
         co_return HttpExchange{};
-    switch (reply->error()) {
-    case QNetworkReply::OperationCanceledError:
-    case QNetworkReply::TimeoutError:
-    case QNetworkReply::RemoteHostClosedError:
+    const QNetworkReply::NetworkError error = reply->error();
+    if (error != QNetworkReply::NoError && !(status.toInt() >= 400 && isStatusError(error)))
         co_return HttpExchange{};
-    default:
-        break;
-    }
-    co_return HttpExchange{status.toInt(), reply->readAll()};
+    QByteArray body = reply->readAll();
+    // Qt keeps the error of a 4xx or 5xx status even when the connection then broke off.
+    const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
+    if (length.isValid() && reply->rawHeader("Content-Encoding").isEmpty() &&
+        length.toLongLong() != body.size())
+        co_return HttpExchange{};
+    // Qt reads a chunk size it cannot parse as the last chunk and ends the answer there without
+    // an error; a chunked answer that ends before its first byte is such a broken one.
+    if (body.isEmpty() && reply->rawHeader("Transfer-Encoding").toLower().contains("chunked"))
+        co_return HttpExchange{};
+    co_return HttpExchange{status.toInt(), std::move(body)};
 }
 
 } // namespace vl

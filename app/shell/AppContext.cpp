@@ -36,6 +36,11 @@ AppContext::AppContext(PlatformBindings platform)
     , nav(router)
     , saved(*m_platform.preferences)
 {
+    // The employer's sign-out, whichever way it comes, is the one change that leaves no token.
+    QObject::connect(&auth, &AuthManager::sessionChanged, &auth, [this] {
+        if (!auth.token())
+            forgetCachedAnswers(session());
+    });
 }
 
 PlatformBindings AppContext::linuxBindings()
