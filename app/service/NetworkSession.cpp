@@ -55,10 +55,20 @@ QNetworkReply* NetworkSession::createRequest(Operation operation, const QNetwork
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::UserVerifiedRedirectPolicy);
     const bool credential = carriesCredential(request);
-    if (credential) {
+    if (credential)
         request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    // Qt's own way to skip the cache adds Cache-Control and Pragma to the request; dropping the
+    // stored answer instead sends exactly the request the caller built. A stored anonymous
+    // answer never stands in for one asked with a credential.
+    const bool fresh =
+        request
+            .attribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::PreferNetwork)
+            .toInt() == QNetworkRequest::AlwaysNetwork;
+    if ((credential || fresh) && operation == GetOperation) {
+        if (QAbstractNetworkCache* stored = cache())
+            stored->remove(request.url());
         request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
-                             QNetworkRequest::AlwaysNetwork);
+                             QNetworkRequest::PreferNetwork);
     }
     if (request.url().scheme() == QLatin1StringView("https") && !m_authorities.isEmpty()) {
         QSslConfiguration tls = request.sslConfiguration();

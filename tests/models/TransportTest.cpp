@@ -156,6 +156,7 @@ TEST_F(TransportTest, BrokenFramingIsNoAnswer)
         "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\n" + done + "\r\n0\r\n\r\n",
         "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n" + done,
         "HTTP/1.1 404 Not Found\r\nContent-Length: 100\r\n\r\n" + done,
+        "HTTP/1.1 500 Oops\r\nTransfer-Encoding: chunked\r\n\r\n5\r\n{\"ok\"",
     };
     for (const QByteArray& answer : broken) {
         server.script(Answer::closing(answer));
@@ -193,6 +194,13 @@ TEST_F(TransportTest, RedirectsCarryNoBodyOrCredentialToAnotherOrigin)
     server.script(Answer::with("HTTP/1.1 302 Moved\r\n" + home + "Content-Length: 0\r\n\r\n"));
     server.script(Answer::with(okAnswer(done)));
     EXPECT_TRUE(call(APIClient::Shape::bearerRead, QStringLiteral("me")));
+    EXPECT_FALSE(server.requests.last().toLower().contains("cache-control"));
+    // A write's body goes out once, so even at home a redirect that would repeat it fails.
+    server.script(Answer::with("HTTP/1.1 307 Moved\r\n" + home + "Content-Length: 0\r\n\r\n"));
+    const qsizetype before = server.requests.size();
+    EXPECT_EQ(failure(call(APIClient::Shape::jsonWrite, QStringLiteral("post"))),
+              APIError::network());
+    EXPECT_EQ(server.requests.size(), before + 1);
 
     jar->deleteCookie(jar->cookiesForUrl(server.url(QStringLiteral("/"))).first());
     token.reset();
@@ -211,6 +219,14 @@ TEST_F(TransportTest, CredentialedAnswersNeverReachTheDiskCache)
     EXPECT_TRUE(cached(QStringLiteral("public")));
     EXPECT_TRUE(get(QStringLiteral("public"))); // from the cache
     EXPECT_EQ(server.requests.size(), 1);
+    // A fresh read goes to the service as the caller built it, and its answer is kept.
+    server.script(Answer::with(okAnswer(done, keep)));
+    EXPECT_TRUE(
+        wait(api.call<Nothing>({.path = QStringLiteral("public"), .fresh = true}, nullptr)));
+    ASSERT_EQ(server.requests.size(), 2);
+    EXPECT_FALSE(server.requests.last().toLower().contains("cache-control"));
+    EXPECT_FALSE(server.requests.last().toLower().contains("pragma"));
+    EXPECT_TRUE(cached(QStringLiteral("public")));
 
     token = QStringLiteral("secret");
     server.script(Answer::with(okAnswer(done, keep)));
@@ -219,7 +235,7 @@ TEST_F(TransportTest, CredentialedAnswersNeverReachTheDiskCache)
     // Nor does an anonymous answer stand in for one asked with a credential.
     server.script(Answer::with(okAnswer(done)));
     ASSERT_TRUE(call(APIClient::Shape::bearerRead, QStringLiteral("public")));
-    EXPECT_EQ(server.requests.size(), 3);
+    EXPECT_EQ(server.requests.size(), 4);
 
     token.reset();
     jar->setCookiesFromUrl({QNetworkCookie("vl_cand", "s1")}, server.url(QStringLiteral("/")));
