@@ -163,6 +163,11 @@ TEST_F(TransportTest, BrokenFramingIsNoAnswer)
         EXPECT_EQ(failure(get(QStringLiteral("broken"))), APIError::network()) << answer.data();
     }
 
+    // A compressed answer's length counts the bytes on the wire.
+    const QByteArray deflated = qCompress(done).mid(4);
+    server.script(Answer::with(okAnswer(deflated, "Content-Encoding: deflate\r\n")));
+    EXPECT_TRUE(get(QStringLiteral("deflated")));
+
     // Whole answers with an error status are still answers.
     server.script(Answer::with(
         "HTTP/1.1 500 Oops\r\nContent-Length: 29\r\n\r\n{\"ok\":false,\"error\":\"rate\"}  "));
