@@ -10,10 +10,9 @@
 #include <QElapsedTimer>
 #include <QNetworkCookie>
 #include <QNetworkDiskCache>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace vl;
@@ -60,7 +59,7 @@ protected:
 
     HostileServer server;
     QTemporaryDir cacheDir;
-    std::unique_ptr<NetworkSession> session = makeNetworkSession();
+    std::unique_ptr<NetworkSession> session = std::make_unique<NetworkSession>();
     SessionCookieJar* jar = new SessionCookieJar(session.get());
     std::optional<QString> token;
     APIClient api{session.get(), server.origin(), [this] { return token; }};
