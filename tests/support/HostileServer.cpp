@@ -60,14 +60,21 @@ void HostileServer::read(QTcpSocket* socket)
         const qsizetype total = headEnd + 4 + length;
         if (inbox.size() < total)
             return;
-        requests.append(inbox.left(total));
+        const QByteArray request = inbox.left(total);
+        requests.append(request);
         inbox.remove(0, total);
-        respond(socket,
-                m_answers.isEmpty()
-                    ? Answer::with("HTTP/1.1 500 Unscripted\r\nContent-Length: 0\r\n\r\n")
-                    : m_answers.takeFirst(),
-                0);
+        respond(socket, answerFor(request), 0);
     }
+}
+
+Answer HostileServer::answerFor(const QByteArray& request)
+{
+    const QByteArray path = request.left(request.indexOf('\r')).split(' ').value(1);
+    if (m_served.contains(path))
+        return m_served.value(path);
+    if (m_answers.isEmpty())
+        return Answer::with("HTTP/1.1 500 Unscripted\r\nContent-Length: 0\r\n\r\n");
+    return m_answers.takeFirst();
 }
 
 void HostileServer::respond(QPointer<QTcpSocket> socket, Answer answer, qsizetype index)

@@ -46,6 +46,9 @@ public:
     quint16 port() const { return m_server.serverPort(); }
 
     void script(Answer answer) { m_answers.append(std::move(answer)); }
+    // Every request for this path gets this answer, before anything scripted: for reads, which
+    // Qt may send again on its own.
+    void serve(const QByteArray& path, Answer answer) { m_served.insert(path, std::move(answer)); }
     bool waitForRequests(qsizetype count, int timeoutMs = 5000);
 
     QList<QByteArray> requests;
@@ -55,11 +58,13 @@ public:
 private:
     void accept();
     void read(QTcpSocket* socket);
+    Answer answerFor(const QByteArray& request);
     void respond(QPointer<QTcpSocket> socket, Answer answer, qsizetype index);
     void keepWriting(QPointer<QTcpSocket> socket, QByteArray repeat, int gapMs);
     void write(QTcpSocket* socket, const QByteArray& bytes);
 
     QList<Answer> m_answers;
+    QHash<QByteArray, Answer> m_served;
     QHash<QTcpSocket*, QByteArray> m_inboxes;
     // Last, so its sockets go while the inboxes they are removed from still exist.
     QTcpServer m_server;
