@@ -20,6 +20,14 @@ QCoro::Task<> launch(vl::AppContext& context, vl::MainWindow& window)
     co_await context.boot();
 }
 
+// Quitting waits, bounded, for what is still being written to the secure store: a sign-out
+// clicked a moment before must not come back at the next start.
+QCoro::Task<> quitWhenSettled(vl::AppContext& context)
+{
+    co_await context.settle();
+    QApplication::quit();
+}
+
 void bringForward(QWidget& window)
 {
     if (window.isMinimized())
@@ -49,6 +57,9 @@ int main(int argc, char** argv)
 
     vl::Theme::apply(app);
     vl::AppContext context(std::move(bindings));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&app, &QGuiApplication::lastWindowClosed, &app,
+                     [&context] { quitWhenSettled(context); });
     context.calls.setBooted();
     context.review.countLaunch();
     vl::MainWindow window(context);
