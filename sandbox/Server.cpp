@@ -127,8 +127,8 @@ void Server::write(QTcpSocket* socket, const Request& request, const Reply& repl
     // HTTP/1.1 keeps the connection unless the client says "close"; HTTP/1.0 closes it unless
     // the client asks to keep it.
     const QByteArray connection = request.header("connection").trimmed().toLower();
-    const bool keepAlive = Listener::speaksHttp10(socket) ? connection == "keep-alive"
-                                                          : !connection.contains("close");
+    const bool keepAlive =
+        Listener::speaksHttp10(socket) ? connection == "keep-alive" : !connection.contains("close");
     Listener::answered(socket);
     socket->write(reply.serialize(keepAlive));
     if (!keepAlive)

@@ -26,7 +26,7 @@ QCoro::Task<bool> PendingWrites::settle(std::chrono::milliseconds bound)
         const auto left = std::chrono::milliseconds(deadline.remainingTime());
         co_await qCoro(this, &PendingWrites::idle, left);
     }
-    co_return self && m_underWay == 0;
+    co_return self&& m_underWay == 0;
 }
 
 } // namespace vl

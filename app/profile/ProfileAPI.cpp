@@ -17,7 +17,7 @@ APIClient::Request photoRequest(const QByteArray& jpeg, const std::optional<QStr
             .path = QStringLiteral("/api/profile-photo"),
             .body = form.body(),
             .contentType = form.contentType(),
-            .timeoutMs = APIClient::uploadTimeoutMs};
+            .timeoutMs = APIClient::defaultTimeoutMs};
 }
 
 } // namespace

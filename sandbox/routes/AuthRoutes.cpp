@@ -72,10 +72,9 @@ public:
         const qint64 id = existing ? *existing : m_accounts.create(email, *locale);
         m_accounts.setLocale(id, *locale);
         const auto seeker = m_seekers.byEmail(email);
-        Reply reply =
-            Envelope::ok(QJsonObject{{QStringLiteral("token"), m_accounts.issueToken(id)},
-                                     {QStringLiteral("employer"), m_accounts.profile(id)},
-                                     {QStringLiteral("seeker"), seeker.has_value()}});
+        Reply reply = Envelope::ok(QJsonObject{{QStringLiteral("token"), m_accounts.issueToken(id)},
+                                               {QStringLiteral("employer"), m_accounts.profile(id)},
+                                               {QStringLiteral("seeker"), seeker.has_value()}});
         // The address is proven for both sides: the job seeker's session opens with it.
         if (seeker)
             reply.withHeader("Set-Cookie", SeekerSessions::setCookie(m_sessions.open(*seeker)));
