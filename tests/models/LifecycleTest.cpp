@@ -44,7 +44,7 @@ TEST(PendingWrites, QuittingWaitsForDroppedWorkButNotForever)
 
     // A write that outlasts the bound does not hold the process.
     bool stuck = false;
-    pending.guard(slowWrite(3s, stuck));
+    pending.guard(slowWrite(1s, stuck));
     QElapsedTimer clock;
     clock.start();
     EXPECT_FALSE(wait(pending.settle(200ms)));
