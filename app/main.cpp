@@ -2,6 +2,7 @@
 #include "app/shell/AppContext.h"
 #include "app/shell/InstanceChannel.h"
 #include "app/shell/MainWindow.h"
+#include "app/shell/QuitWhenSettled.h"
 #include "app/shell/WebLinkHandler.h"
 
 #include <QApplication>
@@ -18,14 +19,6 @@ QCoro::Task<> launch(vl::AppContext& context, vl::MainWindow& window)
     co_await context.start();
     window.show();
     co_await context.boot();
-}
-
-// Quitting waits, bounded, for what is still being written to the secure store: a sign-out
-// clicked a moment before must not come back at the next start.
-QCoro::Task<> quitWhenSettled(vl::AppContext& context)
-{
-    co_await context.settle();
-    QApplication::quit();
 }
 
 void bringForward(QWidget& window)
@@ -57,9 +50,7 @@ int main(int argc, char** argv)
 
     vl::Theme::apply(app);
     vl::AppContext context(std::move(bindings));
-    QApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(&app, &QGuiApplication::lastWindowClosed, &app,
-                     [&context] { quitWhenSettled(context); });
+    vl::quitWhenSettled(app, context);
     context.calls.setBooted();
     context.review.countLaunch();
     vl::MainWindow window(context);
