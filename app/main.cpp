@@ -2,6 +2,7 @@
 #include "app/shell/AppContext.h"
 #include "app/shell/InstanceChannel.h"
 #include "app/shell/MainWindow.h"
+#include "app/shell/QuitWhenSettled.h"
 #include "app/shell/WebLinkHandler.h"
 
 #include <QApplication>
@@ -49,6 +50,7 @@ int main(int argc, char** argv)
 
     vl::Theme::apply(app);
     vl::AppContext context(std::move(bindings));
+    vl::quitWhenSettled(app, context);
     context.calls.setBooted();
     context.review.countLaunch();
     vl::MainWindow window(context);

@@ -3,6 +3,7 @@
 #include "sandbox/Router.h"
 #include "sandbox/dev/FaultTable.h"
 #include "sandbox/dev/RequestLog.h"
+#include "sandbox/http/Listener.h"
 
 #include <QHttpServerRequest>
 #include <QPointer>
@@ -56,7 +57,13 @@ Server::Server(const Router& router, RequestLog& log, FaultTable& faults, QObjec
 
 quint16 Server::start(quint16 port)
 {
-    m_port = listen(QHostAddress::LocalHost, port);
+    auto* listener = new Listener(this);
+    if (!listener->listen(QHostAddress::LocalHost, port)) {
+        delete listener;
+        return 0;
+    }
+    bind(listener);
+    m_port = listener->serverPort();
     return m_port;
 }
 
@@ -117,10 +124,12 @@ void Server::write(QTcpSocket* socket, const Request& request, const Reply& repl
         socket->abort();
         return;
     }
-    // Only a client that asks for a persistent connection keeps one; everybody else, HTTP/1.0
-    // clients among them, reads the answer to the end of the stream.
+    // HTTP/1.1 keeps the connection unless the client says "close"; HTTP/1.0 closes it unless
+    // the client asks to keep it.
+    const QByteArray connection = request.header("connection").trimmed().toLower();
     const bool keepAlive =
-        request.header("connection").trimmed().compare("keep-alive", Qt::CaseInsensitive) == 0;
+        Listener::speaksHttp10(socket) ? connection == "keep-alive" : !connection.contains("close");
+    Listener::answered(socket);
     socket->write(reply.serialize(keepAlive));
     if (!keepAlive)
         socket->disconnectFromHost();

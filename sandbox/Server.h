@@ -13,9 +13,10 @@ class Router;
 
 // The HTTP front: turns each request into a `Request`, records it, applies a fault when one is
 // set for it, routes it, and writes the answer itself on the socket. Writing the bytes directly
-// (rather than through a responder) lets an answer come late, or never, and lets the sandbox close
-// connections the way HTTP/1.0 clients expect: QtHttpServer 6.4 neither exposes the request's
-// protocol version nor closes a connection by itself.
+// (rather than through a responder) lets an answer come late, or never, and lets the sandbox
+// keep or close each connection as HTTP/1.1 and HTTP/1.0 say: QtHttpServer 6.4 neither exposes
+// the request's protocol version nor closes a connection by itself, so its own listener (see
+// Listener) tells the version and bounds the body.
 class Server : public QAbstractHttpServer {
 public:
     Server(const Router& router, RequestLog& log, FaultTable& faults, QObject* parent = nullptr);

@@ -79,7 +79,9 @@ QCoro::Task<bool> sessionAccepted(AppContext& context)
     co_return activity.ok();
 }
 
-QCoro::Task<int> dispatch(AppContext& context, QStringList args)
+} // namespace
+
+QCoro::Task<int> runCandidate(AppContext& context, QStringList args)
 {
     const QString action = args.value(0);
     // The command line opens nothing: the link is printed for the person to use.
@@ -130,16 +132,6 @@ QCoro::Task<int> dispatch(AppContext& context, QStringList args)
         co_return 0;
     }
     co_return printUsage(usage);
-}
-
-} // namespace
-
-QCoro::Task<int> runCandidate(AppContext& context, QStringList args)
-{
-    const int code = co_await dispatch(context, std::move(args));
-    // The session cookie must be in the secure store before the process ends.
-    co_await context.cookies.settle();
-    co_return code;
 }
 
 } // namespace vl::cli

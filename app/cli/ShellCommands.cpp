@@ -84,8 +84,11 @@ QCoro::Task<int> runEmployer(AppContext& context, QStringList args)
     if (action == QLatin1StringView("verify") && args.size() == 3) {
         form.email = args[1];
         form.code = args[2];
+        // Only the service's answer counts: a token kept from an earlier run proves nothing.
+        bool signedIn = false;
+        QObject::connect(&form, &EmployerLoginForm::done, [&signedIn] { signedIn = true; });
         co_await form.verifyCode();
-        if (!context.auth.token())
+        if (!signedIn)
             co_return formFailure(form);
         printJson(QJsonObject{{QStringLiteral("signedIn"), true},
                               {QStringLiteral("me"), json::write(context.auth.me())},

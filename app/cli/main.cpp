@@ -32,6 +32,15 @@ QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args)
         QStringLiteral("usage: velmora-cli api|boot|lang|employer|candidate|texts ..."));
 }
 
+// Every command ends with what it wrote in the secure store, a cookie that came with an answer
+// among it.
+QCoro::Task<int> runToEnd(vl::AppContext& context, QStringList args)
+{
+    const int code = co_await dispatch(context, std::move(args));
+    co_await context.settle();
+    co_return code;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -42,7 +51,7 @@ int main(int argc, char** argv)
     vl::AppContext context(vl::AppContext::linuxBindings());
     QStringList args = QCoreApplication::arguments().mid(1);
     QTimer::singleShot(0, &app, [&context, args] {
-        dispatch(context, args).then([](int code) {
+        runToEnd(context, args).then([](int code) {
             QMetaObject::invokeMethod(
                 qApp, [code] { QCoreApplication::exit(code); }, Qt::QueuedConnection);
         });

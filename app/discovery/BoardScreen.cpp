@@ -101,7 +101,7 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_model(JobKind::vacancy, context.api(), context.scheduler())
-    , m_ledger(m_model)
+    , m_ledger(m_model, context.scheduler())
 {
     setObjectName(QStringLiteral("vl.board"));
     auto* split = new QSplitter(Qt::Horizontal, this);

@@ -3,6 +3,8 @@
 #include "app/discovery/BoardModel.h"
 #include "core/l10n/L10n.h"
 
+#include <algorithm>
+
 namespace vl {
 
 namespace {
@@ -27,13 +29,23 @@ L10n::Key headKey(const BoardLedger::Head& head)
 
 } // namespace
 
-LedgerModel::LedgerModel(BoardModel& board, Clock now, QObject* parent)
+LedgerModel::LedgerModel(BoardModel& board, Scheduler& scheduler, Clock now, QObject* parent)
     : QAbstractListModel(parent)
     , m_board(board)
+    , m_scheduler(scheduler)
     , m_now(now ? std::move(now) : Clock([] { return QDateTime::currentDateTimeUtc(); }))
 {
     connect(&m_board, &BoardModel::itemsChanged, this, &LedgerModel::rebuild);
     rebuild();
+}
+
+void LedgerModel::waitForMidnight()
+{
+    const QDateTime now = m_now();
+    // A moment past midnight, so the new day has surely begun when the rows are grouped again.
+    const qint64 wait = now.msecsTo(BoardLedger::dayStart(now, -1)) + 1;
+    m_midnight = m_scheduler.after(int(std::clamp<qint64>(wait, 1, 86'400'001)), this,
+                                   [this] { rebuild(); });
 }
 
 void LedgerModel::setLang(Lang lang)
@@ -47,6 +59,7 @@ void LedgerModel::setLang(Lang lang)
 
 void LedgerModel::rebuild()
 {
+    waitForMidnight();
     std::vector<BoardLedger::Row> rows =
         BoardLedger::rows(m_board.items(), m_board.grouped(), m_now());
     QStringList ids;
@@ -114,6 +127,11 @@ QVariant LedgerModel::data(const QModelIndex& index, int role) const
         return row.index;
     case FreshRole:
         return !row.isHead() && BoardLedger::isFresh(*row.job, m_now());
+    case DirectTagRole:
+        if (row.isHead() || !row.job->direct.value_or(false))
+            return QString();
+        return L10n::text(L10n::Key::directBadge, m_lang) + QStringLiteral(" · ") +
+               L10n::text(L10n::Key::applyHere, m_lang);
     case RefRole:
     case Qt::AccessibleTextRole:
     case Qt::DisplayRole:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/platform/Scheduler.h"
 #include "core/discovery/BoardLedger.h"
 #include "core/l10n/Lang.h"
 
@@ -13,7 +14,8 @@ class BoardModel;
 
 // The board's ledger as list rows: the heads and listings of BoardLedger over the board's
 // items. A next page that only adds rows at the end arrives as an insertion, so the view keeps
-// its place; anything else resets.
+// its place; anything else resets. The day heads follow the clock: at the board's midnight the
+// rows are grouped again, so "Today" becomes "Yesterday" without a load.
 class LedgerModel : public QAbstractListModel {
     Q_OBJECT
 public:
@@ -26,11 +28,13 @@ public:
         IndexRole,
         FreshRole,
         RefRole,
+        // The words of a direct listing's tag; empty for any other row.
+        DirectTagRole,
     };
 
     using Clock = std::function<QDateTime()>;
 
-    LedgerModel(BoardModel& board, Clock now = {}, QObject* parent = nullptr);
+    LedgerModel(BoardModel& board, Scheduler& scheduler, Clock now = {}, QObject* parent = nullptr);
 
     void setLang(Lang lang);
     Lang lang() const { return m_lang; }
@@ -47,8 +51,11 @@ public:
 
 private:
     void rebuild();
+    void waitForMidnight();
 
     BoardModel& m_board;
+    Scheduler& m_scheduler;
+    Scheduler::Handle m_midnight;
     Clock m_now;
     Lang m_lang = Lang::ka;
     std::vector<BoardLedger::Row> m_rows;

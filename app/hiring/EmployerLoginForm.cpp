@@ -19,7 +19,7 @@ EmployerLoginForm::EmployerLoginForm(Parts parts, QObject* parent)
 QCoro::Task<> EmployerLoginForm::sendCode()
 {
     const Lang lang = m_parts.appState.lang();
-    const QString address = email.trimmed();
+    const QString address = email;
     if (!address.contains(QLatin1Char('@')) || !address.contains(QLatin1Char('.'))) {
         fail(L10n::text(L10n::Key::errEmail, lang));
         co_return;
@@ -40,7 +40,7 @@ QCoro::Task<> EmployerLoginForm::sendCode()
 QCoro::Task<> EmployerLoginForm::verifyCode()
 {
     const Lang lang = m_parts.appState.lang();
-    const QString typed = code.trimmed();
+    const QString typed = code;
     if (typed.size() != 6) {
         fail(L10n::text(L10n::Key::errCode, lang));
         co_return;
@@ -48,7 +48,7 @@ QCoro::Task<> EmployerLoginForm::verifyCode()
     m_error.reset();
     setWorking(true);
     QPointer self(this);
-    const auto verified = co_await m_parts.api.authVerify(email.trimmed(), typed, this);
+    const auto verified = co_await m_parts.api.authVerify(email, typed, this);
     if (!self)
         co_return;
     if (!verified) {

@@ -34,7 +34,8 @@ public:
     bool working() const { return m_working; }
     const std::optional<QString>& error() const { return m_error; }
 
-    // The address needs an "@" and a "."; everything else is the service's to judge.
+    // The address needs an "@" and a "."; everything else is the service's to judge. Both
+    // fields go out as typed.
     QCoro::Task<> sendCode();
     // The code must be six characters; a good answer signs in and reports `done`.
     QCoro::Task<> verifyCode();

@@ -1,5 +1,6 @@
 #include "app/identity/CandidateAuth.h"
 
+#include "app/platform/PendingWrites.h"
 #include "app/platform/Preferences.h"
 #include "app/service/NetworkSession.h"
 #include "core/identity/WebAuthn.h"
@@ -84,17 +85,17 @@ QByteArray assertionBody(const char* leadKey, const QString& lead,
 
 } // namespace
 
-CandidateAuth::CandidateAuth(Preferences& preferences, QNetworkAccessManager& session,
-                             PasskeyAuthenticator& passkeys, QString site, QObject* parent)
+CandidateAuth::CandidateAuth(Parts parts, QString site, QObject* parent)
     : QObject(parent)
-    , m_preferences(preferences)
-    , m_session(session)
-    , m_passkeys(passkeys)
+    , m_preferences(parts.preferences)
+    , m_session(parts.session)
+    , m_passkeys(parts.passkeys)
+    , m_pending(parts.pending)
     , m_site(std::move(site))
-    , m_adoptedFromEmployer(preferences.value(adoptedKey).toBool())
-    , m_declined(preferences.value(declinedKey).toBool())
+    , m_adoptedFromEmployer(m_preferences.value(adoptedKey).toBool())
+    , m_declined(m_preferences.value(declinedKey).toBool())
 {
-    const QString stored = preferences.string(emailKey);
+    const QString stored = m_preferences.string(emailKey);
     if (!stored.isEmpty())
         m_email = stored;
 }
@@ -141,7 +142,7 @@ QCoro::Task<> CandidateAuth::signOut()
     m_preferences.remove(emailKey);
     forgetCachedAnswers(m_session);
     Q_EMIT changed();
-    co_await finishSignOut(push, voip);
+    co_await m_pending.guard(finishSignOut(push, voip));
 }
 
 QCoro::Task<> CandidateAuth::finishSignOut(QString pushToken, QString voipToken)
@@ -168,14 +169,15 @@ QCoro::Task<> CandidateAuth::finishSignOut(QString pushToken, QString voipToken)
         deleteSessionCookie();
 }
 
-void CandidateAuth::employerSignedOut()
+QCoro::Task<> CandidateAuth::employerSignedOut()
 {
     if (!m_email || !m_adoptedFromEmployer)
-        return;
-    signOut();
+        co_return;
+    auto network = signOut();
     m_declined = false;
     m_preferences.setValue(declinedKey, false);
     Q_EMIT changed();
+    co_await std::move(network);
 }
 
 void CandidateAuth::setPendingRecovery(std::optional<QStringList> codes)

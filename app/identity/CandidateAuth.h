@@ -17,6 +17,7 @@
 
 namespace vl {
 
+class PendingWrites;
 class Preferences;
 
 // A passkey operation fails at the service or in the ceremony; the sign-in form tells them apart.
@@ -34,8 +35,14 @@ using PasskeyResult = Result<T, PasskeyError>;
 class CandidateAuth : public QObject {
     Q_OBJECT
 public:
-    CandidateAuth(Preferences& preferences, QNetworkAccessManager& session,
-                  PasskeyAuthenticator& passkeys, QString site, QObject* parent = nullptr);
+    struct Parts {
+        Preferences& preferences;
+        QNetworkAccessManager& session;
+        PasskeyAuthenticator& passkeys;
+        PendingWrites& pending;
+    };
+
+    CandidateAuth(Parts parts, QString site, QObject* parent = nullptr);
 
     const std::optional<QString>& email() const { return m_email; }
     bool signedIn() const { return m_email.has_value(); }
@@ -56,10 +63,11 @@ public:
     // Signs out here at once: the address and the adoption mark go, and the choice is
     // remembered so adoption does not bring the identity back. The task that comes back is the
     // network work behind it (push tokens, the service's logout, then the session cookie); it
-    // cannot fail and nobody has to wait for it.
+    // cannot fail, and it is counted in the pending writes until the cookie is gone.
     QCoro::Task<> signOut();
-    // The employer side went away; an identity it carried goes with it.
-    void employerSignedOut();
+    // The employer side went away; an identity it carried goes with it, at once, and the task
+    // is that identity's sign-out.
+    QCoro::Task<> employerSignedOut();
     void setPendingRecovery(std::optional<QStringList> codes);
 
     // Carries the employer's session over to the job seeker side. Without an employer token it
@@ -100,6 +108,7 @@ private:
     Preferences& m_preferences;
     QNetworkAccessManager& m_session;
     PasskeyAuthenticator& m_passkeys;
+    PendingWrites& m_pending;
     QString m_site;
     std::optional<QString> m_email;
     std::optional<QStringList> m_pendingRecovery;

@@ -18,6 +18,11 @@ CandidateGate::CandidateGate(CandidateAuth& auth, AppState& appState, UrlOpener 
 {
     connect(&m_auth, &CandidateAuth::callbackReceived, this,
             [this](const QUrl& url) { handleCallback(url); });
+    // A sign-out while the form still shows its finished sign-in: the next one starts afresh.
+    connect(&m_auth, &CandidateAuth::changed, this, [this] {
+        if (m_finished && !m_auth.signedIn())
+            reset();
+    });
 }
 
 QString CandidateGate::groupedTotpSecret() const

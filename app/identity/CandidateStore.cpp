@@ -5,9 +5,9 @@
 
 namespace vl {
 
-CandidateStore::CandidateStore(SecretStore& secrets, QObject* parent)
+CandidateStore::CandidateStore(SecretStore& secrets, PendingWrites& pending, QObject* parent)
     : QObject(parent)
-    , m_list(secrets, QStringLiteral("candidate-apps"))
+    , m_list(secrets, pending, QStringLiteral("candidate-apps"))
 {
 }
 

@@ -13,7 +13,7 @@ namespace vl {
 class CandidateStore : public QObject {
     Q_OBJECT
 public:
-    explicit CandidateStore(SecretStore& secrets, QObject* parent = nullptr);
+    CandidateStore(SecretStore& secrets, PendingWrites& pending, QObject* parent = nullptr);
 
     QCoro::Task<> open();
     const std::vector<CandidateEntry>& entries() const { return m_list.entries(); }

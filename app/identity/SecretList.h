@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/platform/PendingWrites.h"
 #include "app/platform/SecretStore.h"
 #include "core/json/Json.h"
 
@@ -14,8 +15,9 @@ namespace vl {
 template <class Entry>
 class SecretList {
 public:
-    SecretList(SecretStore& secrets, QString account)
+    SecretList(SecretStore& secrets, PendingWrites& pending, QString account)
         : m_secrets(secrets)
+        , m_pending(pending)
         , m_account(std::move(account))
     {
     }
@@ -39,14 +41,23 @@ public:
             m_entries.insert(m_entries.end(), read->begin(), read->end());
     }
 
+    // The entry is in the list at once. The store's list is read in first when nobody opened
+    // it yet, since the write below replaces the whole item.
     QCoro::Task<> add(Entry entry)
     {
         m_entries.insert(m_entries.begin(), std::move(entry));
-        co_await m_secrets.set(QString::fromUtf8(json::encode(m_entries)), m_account);
+        co_await m_pending.guard(save());
     }
 
 private:
+    QCoro::Task<> save()
+    {
+        co_await open();
+        co_await m_secrets.set(QString::fromUtf8(json::encode(m_entries)), m_account);
+    }
+
     SecretStore& m_secrets;
+    PendingWrites& m_pending;
     QString m_account;
     std::vector<Entry> m_entries;
     bool m_opened = false;

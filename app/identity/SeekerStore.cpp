@@ -4,9 +4,9 @@
 
 namespace vl {
 
-SeekerStore::SeekerStore(SecretStore& secrets, QObject* parent)
+SeekerStore::SeekerStore(SecretStore& secrets, PendingWrites& pending, QObject* parent)
     : QObject(parent)
-    , m_list(secrets, QStringLiteral("seeker-profiles"))
+    , m_list(secrets, pending, QStringLiteral("seeker-profiles"))
 {
 }
 

@@ -11,7 +11,7 @@ namespace vl {
 class SeekerStore : public QObject {
     Q_OBJECT
 public:
-    explicit SeekerStore(SecretStore& secrets, QObject* parent = nullptr);
+    SeekerStore(SecretStore& secrets, PendingWrites& pending, QObject* parent = nullptr);
 
     QCoro::Task<> open();
     const std::vector<SeekerProfileEntry>& entries() const { return m_list.entries(); }

@@ -109,9 +109,9 @@ void LedgerDelegate::paintJob(QPainter* painter, const QStyleOptionViewItem& opt
     const QRect content = rect.adjusted(18, 10, -18, -10);
     int right = content.right();
     const int titleCenter = content.top() + 11;
-    if (job->direct.value_or(false))
-        right = drawTag(painter, right, titleCenter, L10n::text(L10n::Key::directBadge, m_lang),
-                        QColor(Qt::white), accent);
+    const QString direct = index.data(LedgerModel::DirectTagRole).toString();
+    if (!direct.isEmpty())
+        right = drawTag(painter, right, titleCenter, direct, QColor(Qt::white), accent);
     if (job->featured)
         right = drawTag(painter, right, titleCenter, L10n::text(L10n::Key::featured, m_lang), gold,
                         goldPaper);

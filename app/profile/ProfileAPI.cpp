@@ -16,8 +16,7 @@ APIClient::Request photoRequest(const QByteArray& jpeg, const std::optional<QStr
     return {.shape = APIClient::Shape::multipartWrite,
             .path = QStringLiteral("/api/profile-photo"),
             .body = form.body(),
-            .contentType = form.contentType(),
-            .timeoutMs = APIClient::uploadTimeoutMs};
+            .contentType = form.contentType()};
 }
 
 } // namespace

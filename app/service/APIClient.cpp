@@ -34,9 +34,12 @@ APIClient::APIClient(QNetworkAccessManager* session, const QString& site, TokenS
 
 QUrl APIClient::url(const QString& path, const Query& query) const
 {
+    // The path is one component: what a URL would read as its query or fragment ("?", "#"),
+    // and "%" itself, is encoded, while its slashes stay separators.
+    const QByteArray encoded = QUrl::toPercentEncoding(path, "/");
     QUrl result = path.startsWith(QLatin1StringView("/api/"))
-                      ? QUrl(m_site + path)
-                      : QUrl(m_base.toString() + QLatin1Char('/') + path);
+                      ? QUrl::fromEncoded(m_site.toUtf8() + encoded, QUrl::StrictMode)
+                      : QUrl::fromEncoded(m_base.toEncoded() + '/' + encoded, QUrl::StrictMode);
     if (!query.empty()) {
         // Each key and value is percent-encoded whole, so "+", "&" and "=" inside a search
         // arrive as typed.
@@ -219,12 +222,11 @@ QCoro::Task<Result<BoardSummary>> APIClient::board(JobKind kind, Lang lang, QObj
 
 QCoro::Task<Result<JobDetail>> APIClient::jobDetail(QString ref, Lang lang, QObject* owner) const
 {
-    return call<JobDetail>(
-        {.shape = Shape::plainRead,
-         .path = QStringLiteral("jobs/") + QString::fromLatin1(QUrl::toPercentEncoding(ref)),
-         .query = {{QStringLiteral("locale"), rawValue(lang)},
-                   {QStringLiteral("forms"), QStringLiteral("1")}}},
-        owner);
+    return call<JobDetail>({.shape = Shape::plainRead,
+                            .path = QStringLiteral("jobs/") + ref,
+                            .query = {{QStringLiteral("locale"), rawValue(lang)},
+                                      {QStringLiteral("forms"), QStringLiteral("1")}}},
+                           owner);
 }
 
 } // namespace vl

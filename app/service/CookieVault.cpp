@@ -1,26 +1,27 @@
 #include "app/service/CookieVault.h"
 
+#include "app/platform/PendingWrites.h"
 #include "app/platform/SecretStore.h"
 #include "app/service/SessionCookieJar.h"
 
-#include <QCoroSignal>
 #include <QNetworkAccessManager>
 #include <QNetworkCookie>
 #include <QPointer>
 
 namespace vl {
 
-CookieVault::CookieVault(SecretStore& secrets, QNetworkAccessManager& session, QString site,
-                         QObject* parent)
+CookieVault::CookieVault(SecretStore& secrets, PendingWrites& pending,
+                         QNetworkAccessManager& session, QString site, QObject* parent)
     : QObject(parent)
     , m_secrets(secrets)
+    , m_pending(pending)
     , m_jar(new SessionCookieJar(&session))
     , m_site(site)
 {
     session.setCookieJar(m_jar);
     connect(m_jar, &SessionCookieJar::changed, this, [this] {
         if (!m_restoring)
-            save();
+            m_pending.guard(save());
     });
 }
 
@@ -51,13 +52,6 @@ QCoro::Task<> CookieVault::restore()
     m_restoring = false;
 }
 
-QCoro::Task<> CookieVault::settle()
-{
-    QPointer self(this);
-    while (self && m_saving)
-        co_await qCoro(this, &CookieVault::settled);
-}
-
 QCoro::Task<> CookieVault::save()
 {
     m_dirty = true;
@@ -76,10 +70,8 @@ QCoro::Task<> CookieVault::save()
         else
             co_await m_secrets.set(lines.join(u'\n'), QString::fromLatin1(storeKey));
     }
-    if (!self)
-        co_return;
-    m_saving = false;
-    Q_EMIT settled();
+    if (self)
+        m_saving = false;
 }
 
 } // namespace vl

@@ -80,10 +80,11 @@ QCoro::Task<> AccountMenuModel::signOut(L10n::Key entry)
                         (entry == Key::signOut && !m_auth.hiring());
     const bool employer = entry == Key::macSignOutEmployer || entry == Key::macSignOutBoth ||
                           (entry == Key::signOut && m_auth.hiring());
-    if (seeker)
-        m_candidate.signOut();
+    auto seekerGone = seeker ? m_candidate.signOut() : QCoro::Task<>();
     if (employer)
         co_await m_auth.logOut();
+    if (seeker)
+        co_await std::move(seekerGone);
 }
 
 QString AccountMenuModel::workingAs() const

@@ -4,6 +4,7 @@
 #include "app/kit/ConfirmRow.h"
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
+#include "app/shell/ReviewNotice.h"
 #include "core/l10n/L10n.h"
 
 #include <QButtonGroup>
@@ -74,6 +75,10 @@ AccountScreen::AccountScreen(AppContext& context, QWidget* parent)
     layout->addLayout(m_signOuts);
     layout->addWidget(m_delete, 0, Qt::AlignLeft);
     layout->addWidget(m_error);
+    layout->addSpacing(8);
+    layout->addWidget(new ReviewNotice(
+        context.review, context.appState,
+        [&context] { return ReviewAsk::reviewPage(context.taxonomy.updatePage()); }, this));
     layout->addStretch(1);
 
     connect(m_work, &QRadioButton::clicked, this,
@@ -84,6 +89,12 @@ AccountScreen::AccountScreen(AppContext& context, QWidget* parent)
     connect(&m_model, &AccountMenuModel::changed, this, &AccountScreen::retext);
     connect(&m_context.appState, &AppState::langChanged, this, &AccountScreen::retext);
     retext();
+}
+
+void AccountScreen::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_context.review.evaluateCard();
 }
 
 void AccountScreen::retext()

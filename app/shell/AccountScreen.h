@@ -23,6 +23,9 @@ class AccountScreen : public QWidget {
 public:
     explicit AccountScreen(AppContext& context, QWidget* parent = nullptr);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void retext();
     void rebuildSignOuts();

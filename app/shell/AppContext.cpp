@@ -25,11 +25,12 @@ AppContext::AppContext(PlatformBindings platform)
     : m_platform(completed(std::move(platform)))
     , m_api(m_platform.session.get(), m_platform.site, [this] { return auth.token(); })
     , appState(*m_platform.preferences, m_platform.preferredLanguages)
-    , cookies(*m_platform.secrets, *m_platform.session, m_api.site())
-    , candidate(*m_platform.preferences, *m_platform.session, *m_platform.passkeys, m_api.site())
-    , candidateStore(*m_platform.secrets)
-    , seekerStore(*m_platform.secrets)
-    , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota})
+    , cookies(*m_platform.secrets, pending, *m_platform.session, m_api.site())
+    , candidate({*m_platform.preferences, *m_platform.session, *m_platform.passkeys, pending},
+                m_api.site())
+    , candidateStore(*m_platform.secrets, pending)
+    , seekerStore(*m_platform.secrets, pending)
+    , auth({*m_platform.secrets, *m_platform.preferences, m_api, candidate, inbox, quota, pending})
     , taxonomy(m_api, m_platform.build)
     , review(*m_platform.preferences)
     , router(m_api.site())
@@ -72,6 +73,11 @@ QCoro::Task<> AppContext::boot()
     co_await auth.refresh();
     if (auth.me())
         co_await auth.adoptSeekerIdentity();
+}
+
+QCoro::Task<> AppContext::settle(std::chrono::milliseconds bound)
+{
+    co_await pending.settle(bound);
 }
 
 } // namespace vl

@@ -8,6 +8,7 @@
 #include "app/identity/CandidateStore.h"
 #include "app/identity/SeekerStore.h"
 #include "app/platform/PasskeyAuthenticator.h"
+#include "app/platform/PendingWrites.h"
 #include "app/platform/Preferences.h"
 #include "app/platform/Scheduler.h"
 #include "app/platform/SecretStore.h"
@@ -63,6 +64,8 @@ public:
     // The boot: the taxonomy first, then the employer's summary and adoption when a token is
     // held.
     QCoro::Task<> boot();
+    // Waits for the writes still under way, at most `bound`; for a process about to end.
+    QCoro::Task<> settle(std::chrono::milliseconds bound = std::chrono::seconds(5));
 
     Preferences& preferences() { return *m_platform.preferences; }
     SecretStore& secrets() { return *m_platform.secrets; }
@@ -71,6 +74,8 @@ public:
     const APIClient& api() const { return m_api; }
     const QString& site() const { return m_platform.site; }
 
+    // First of the shared objects: every one below may count its writes here.
+    PendingWrites pending;
     AppState appState;
     CookieVault cookies;
     CandidateAuth candidate;

@@ -3,6 +3,7 @@
 #include "app/conversations/InboxState.h"
 #include "app/hiring/QuotaStore.h"
 #include "app/identity/CandidateAuth.h"
+#include "app/platform/PendingWrites.h"
 #include "app/platform/Preferences.h"
 #include "app/platform/SecretStore.h"
 #include "app/service/APIClient.h"
@@ -48,7 +49,7 @@ QCoro::Task<> AuthManager::refresh()
         m_me = std::move(me).value();
         Q_EMIT meChanged();
     } else if (me.error().isServer(QLatin1StringView("auth"))) {
-        clearSession();
+        co_await clearSession();
     }
 }
 
@@ -58,7 +59,7 @@ QCoro::Task<> AuthManager::signedIn(QString token)
     m_me.reset();
     Q_EMIT sessionChanged();
     QPointer self(this);
-    co_await m_parts.secrets.set(token, sessionKey);
+    co_await m_parts.pending.guard(m_parts.secrets.set(token, sessionKey));
     if (!self)
         co_return;
     co_await refresh();
@@ -70,10 +71,15 @@ QCoro::Task<> AuthManager::logOut()
 {
     const QString push = m_parts.preferences.string(QStringLiteral("vl.pushToken"));
     const QString voip = m_parts.preferences.string(QStringLiteral("vl.voipToken"));
+    co_await m_parts.pending.guard(endSession(push, voip));
+}
+
+QCoro::Task<> AuthManager::endSession(QString pushToken, QString voipToken)
+{
     QPointer self(this);
-    co_await m_parts.api.authLogout(push, voip, this);
+    co_await m_parts.api.authLogout(pushToken, voipToken, this);
     if (self)
-        clearSession();
+        co_await clearSession();
 }
 
 QCoro::Task<bool> AuthManager::deleteAccount()
@@ -82,21 +88,23 @@ QCoro::Task<bool> AuthManager::deleteAccount()
     const auto deleted = co_await m_parts.api.deleteMe(this);
     if (!deleted || !self)
         co_return false;
-    clearSession();
+    co_await clearSession();
     co_return true;
 }
 
-void AuthManager::clearSession()
+QCoro::Task<> AuthManager::clearSession()
 {
     m_token.reset();
     m_me.reset();
-    m_parts.secrets.remove(sessionKey);
-    m_parts.candidate.employerSignedOut();
+    auto removed = m_parts.pending.guard(m_parts.secrets.remove(sessionKey));
+    auto carried = m_parts.pending.guard(m_parts.candidate.employerSignedOut());
     if (!m_parts.candidate.signedIn())
         m_parts.inbox.reset();
     m_parts.quota.reset();
     Q_EMIT sessionChanged();
     Q_EMIT meChanged();
+    co_await std::move(removed);
+    co_await std::move(carried);
 }
 
 QCoro::Task<> AuthManager::adoptSeekerIdentity()

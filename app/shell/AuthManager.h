@@ -11,6 +11,7 @@ namespace vl {
 class APIClient;
 class CandidateAuth;
 class InboxState;
+class PendingWrites;
 class Preferences;
 class QuotaStore;
 class SecretStore;
@@ -27,6 +28,7 @@ public:
         CandidateAuth& candidate;
         InboxState& inbox;
         QuotaStore& quota;
+        PendingWrites& pending;
     };
 
     explicit AuthManager(Parts parts, QObject* parent = nullptr);
@@ -44,7 +46,9 @@ public:
     QCoro::Task<> signedIn(QString token);
     // Tells the service, whatever it answers, then forgets the session here.
     QCoro::Task<> logOut();
-    void clearSession();
+    // The session is gone here when this returns; the task is the store's deletion and the
+    // sign-out of an identity carried along with it.
+    QCoro::Task<> clearSession();
     // Deletes the employer's account at the service; only then is the session forgotten here.
     QCoro::Task<bool> deleteAccount();
     // Offers the employer's address to the job seeker side, only while an employer token is
@@ -56,6 +60,8 @@ Q_SIGNALS:
     void meChanged();
 
 private:
+    QCoro::Task<> endSession(QString pushToken, QString voipToken);
+
     Parts m_parts;
     std::optional<QString> m_token;
     std::optional<MePayload> m_me;

@@ -11,6 +11,8 @@ namespace vl {
 namespace {
 
 constexpr int handOverTimeoutMs = 1000;
+// Far above any link; a peer that sends more without ending its line is dropped.
+constexpr qint64 longestLine = 64 * 1024;
 
 } // namespace
 
@@ -50,9 +52,12 @@ bool InstanceChannel::listen()
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* socket = m_server->nextPendingConnection()) {
             connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+            socket->setReadBufferSize(longestLine + 1);
             connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
                 while (socket->canReadLine())
                     Q_EMIT linkReceived(QString::fromUtf8(socket->readLine()).trimmed());
+                if (socket->bytesAvailable() > longestLine)
+                    socket->abort();
             });
         }
     });

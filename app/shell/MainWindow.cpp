@@ -188,7 +188,7 @@ void MainWindow::buildMenus()
     m_quit->setObjectName(QStringLiteral("vl.action.quit"));
     m_quit->setShortcut(QKeySequence::Quit);
     m_quit->setMenuRole(QAction::QuitRole);
-    connect(m_quit, &QAction::triggered, qApp, &QApplication::quit);
+    connect(m_quit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
 
     auto addAction = [this](QMenu* menu, const char* name, QKeySequence shortcut, auto&& slot) {
         QAction* action = menu->addAction(QString());

@@ -3,6 +3,7 @@
 #include "app/platform/Preferences.h"
 
 #include <QStringList>
+#include <QUrlQuery>
 
 namespace vl {
 
@@ -114,6 +115,16 @@ void ReviewAsk::hideCard()
     m_pending = false;
     m_cardVisible = false;
     Q_EMIT changed();
+}
+
+QUrl ReviewAsk::reviewPage(const QString& storePage)
+{
+    QUrl page(storePage);
+    QUrlQuery query(page);
+    query.removeAllQueryItems(QStringLiteral("action"));
+    query.addQueryItem(QStringLiteral("action"), QStringLiteral("write-review"));
+    page.setQuery(query);
+    return page;
 }
 
 void ReviewAsk::countGoodMoment()

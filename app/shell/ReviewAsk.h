@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <QUrl>
 #include <functional>
 
 namespace vl {
@@ -38,6 +39,8 @@ public:
     void evaluateCard();
     void reviewWritten();
     void hideCard();
+    // The page where a review of the application is written, from its store page.
+    static QUrl reviewPage(const QString& storePage);
 
 Q_SIGNALS:
     void changed();

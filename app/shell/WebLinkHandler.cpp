@@ -14,8 +14,6 @@ WebLinkHandler::WebLinkHandler(Router& router, MacNav& nav)
 
 bool WebLinkHandler::open(const QUrl& url)
 {
-    if (!m_router.routes().isOwn(url))
-        return false;
     const auto ref = vacancyRefOfWebLink(url);
     if (!ref)
         return false;

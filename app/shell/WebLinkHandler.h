@@ -7,8 +7,8 @@ namespace vl {
 class MacNav;
 class Router;
 
-// Web links handed to the client from outside: a vacancy on the service's origin opens in the
-// board. Everything else is left alone.
+// Web links handed to the client from outside: a vacancy path opens in the board, whichever of
+// the service's hosts (www. or not) the link names. Everything else is left alone.
 class WebLinkHandler {
 public:
     WebLinkHandler(Router& router, MacNav& nav);

@@ -106,8 +106,7 @@ QStringList notes(const JobDetail& job, Lang lang)
         out << withDate(Key::deadline, job.deadline, lang);
     if (job.publishedAt)
         out << withDate(Key::posted, job.publishedAt, lang);
-    if (job.views > 0)
-        out << L10n::text(Key::views, lang, job.views);
+    out << L10n::text(Key::views, lang, job.views);
     return out;
 }
 

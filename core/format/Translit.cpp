@@ -1,5 +1,7 @@
 #include "core/format/Translit.h"
 
+#include <QList>
+#include <QTextBoundaryFinder>
 #include <array>
 #include <string_view>
 
@@ -64,14 +66,23 @@ bool hasCyrillic(QStringView text)
 
 QString latin(QStringView text)
 {
+    // Letters typed as a base and a combining mark (и and a breve) become one character first,
+    // and the walk goes by what a reader sees as one character, so a mark or a surrogate pair
+    // never counts as the end of a word.
+    const QString composed = text.toString().normalized(QString::NormalizationForm_C);
     QString result;
-    result.reserve(text.size() * 2);
+    result.reserve(composed.size() * 2);
     bool wordStart = true;
-    for (const QChar c : text) {
-        const auto replacement = lookup(c.toLower().unicode());
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, composed);
+    qsizetype from = 0;
+    while (characters.toNextBoundary() != -1) {
+        const QStringView character = QStringView(composed).mid(from, characters.position() - from);
+        from = characters.position();
+        const QString lower = character.toString().toLower();
+        const auto replacement = lower.size() == 1 ? lookup(lower.front().unicode()) : std::nullopt;
         if (!replacement) {
-            result.append(c);
-            wordStart = !c.isLetter();
+            result.append(character);
+            wordStart = !QChar::isLetter(character.toUcs4().value(0));
             continue;
         }
         if (wordStart && !replacement->empty()) {

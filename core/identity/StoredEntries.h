@@ -2,7 +2,21 @@
 
 #include "core/json/Json.h"
 
+#include <QDateTime>
+
 namespace vl {
+
+namespace json {
+
+// A moment kept by this computer for itself: ISO 8601 in UTC, with milliseconds. A text that is
+// not such a moment does not read.
+template <>
+struct Codec<QDateTime> {
+    static bool read(const QJsonValue& v, QDateTime& out);
+    static QJsonValue write(const QDateTime& v);
+};
+
+} // namespace json
 
 // An application or question sent from this computer. Its `key` opens it without a session.
 struct CandidateEntry {
@@ -11,7 +25,7 @@ struct CandidateEntry {
     QString jobTitle;
     QString employerName;
     QString kind; // "application" or "enquiry"
-    QString createdAt;
+    QDateTime createdAt;
     VL_JSON_FIELDS(CandidateEntry, ref, key, jobTitle, employerName, kind, createdAt)
 };
 
@@ -20,7 +34,7 @@ struct SeekerProfileEntry {
     QString ref;
     QString key;
     QString title;
-    QString createdAt;
+    QDateTime createdAt;
     VL_JSON_FIELDS(SeekerProfileEntry, ref, key, title, createdAt)
 };
 

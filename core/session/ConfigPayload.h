@@ -38,8 +38,8 @@ struct ConfigPayload {
     int rev = 0;
     std::optional<QString> updateUrl;
     std::optional<Features> features;
-    std::optional<int> minBuild;
-    std::optional<int> latestBuild;
+    std::optional<qint64> minBuild;
+    std::optional<qint64> latestBuild;
     std::optional<QString> storeUrl;
     std::optional<QString> testflightUrl;
     std::vector<QString> locales;

@@ -29,7 +29,7 @@ std::optional<UpdateAvailable> updateAvailable(const ConfigPayload& config, qint
 {
     if (!config.latestBuild || build >= *config.latestBuild)
         return std::nullopt;
-    const auto url = config.updateUrl ? config.updateUrl : config.storeUrl;
+    const auto url = nonEmpty(config.updateUrl) ? config.updateUrl : nonEmpty(config.storeUrl);
     if (!url)
         return std::nullopt;
     return UpdateAvailable{*config.latestBuild, *url};

@@ -30,10 +30,6 @@ JobFilter JobFilter::from(const Request& request)
     f.noExperience = request.queryValue(QStringLiteral("noexp")) == QLatin1String("1");
     f.english = request.queryValue(QStringLiteral("english")) == QLatin1String("1");
     f.type = request.queryValue(QStringLiteral("type"));
-    if (f.type == QLatin1String("part"))
-        f.type = QStringLiteral("part_time");
-    else if (f.type == QLatin1String("full"))
-        f.type = QStringLiteral("full_time");
     f.payAtLeast = request.queryValue(QStringLiteral("pay")).toInt();
     return f;
 }

@@ -71,8 +71,8 @@ const QList<Term>& cities()
 const QList<Term>& employmentTypes()
 {
     static const QList<Term> list{
-        term("full_time", "სრული განაკვეთი", "Full-time", "Полная занятость"),
-        term("part_time", "ნახევარი განაკვეთი", "Part-time", "Частичная занятость"),
+        term("full", "სრული განაკვეთი", "Full-time", "Полная занятость"),
+        term("part", "ნახევარი განაკვეთი", "Part-time", "Частичная занятость"),
         term("shift", "ცვლებში მუშაობა", "Shift work", "Сменный график"),
         term("contract", "კონტრაქტით", "Contract", "По договору"),
         term("internship", "სტაჟირება", "Internship", "Стажировка"),

@@ -13,7 +13,8 @@ namespace vl {
 struct Fault {
     enum class Mode { Slow, Html, Status, Drop };
     Mode mode = Mode::Slow;
-    // Slow: seconds before the normal answer.
+    // Slow: seconds before the normal answer, at most longestDelay.
+    static constexpr double longestDelay = 600;
     double delay = 0;
     // Status: the HTTP status and what the body holds: "html", "envelope" or "ok".
     int status = 500;

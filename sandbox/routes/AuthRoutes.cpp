@@ -8,6 +8,8 @@
 #include "sandbox/auth/EmployerAccounts.h"
 #include "sandbox/auth/RateLimit.h"
 #include "sandbox/auth/Secrets.h"
+#include "sandbox/auth/SeekerAccounts.h"
+#include "sandbox/auth/SeekerSessions.h"
 #include "sandbox/http/Envelope.h"
 
 namespace vl::AuthRoutes {
@@ -26,6 +28,8 @@ public:
     explicit Handlers(Context& context)
         : m_context(context)
         , m_accounts(context.store, context.clock)
+        , m_seekers(context.store, context.clock)
+        , m_sessions(context.store, context.clock)
         , m_codes(context.store, context.clock, QStringLiteral("employer"))
         , m_requests(context.store, context.clock, QStringLiteral("employer-code"), 5, tenMinutes)
         , m_failures(context.store, context.clock, QStringLiteral("employer-verify"), 10,
@@ -39,9 +43,12 @@ public:
         const QString email = field(body, "email");
         if (!Secrets::isEmail(email))
             return Envelope::badInput(QStringLiteral("email"));
+        // The code's mail and the account's language both come from it: no guess.
+        const QString locale = field(body, "locale");
+        if (locale.isEmpty())
+            return Envelope::badInput(QStringLiteral("required"));
         if (!m_requests.allow(email))
             return Envelope::rateLimited();
-        const QString locale = field(body, "locale");
         CodeMail::sendEmployerCode(m_context.outbox, email, m_codes.issue(email, locale), locale);
         return Envelope::ok(QJsonObject{});
     }
@@ -64,12 +71,14 @@ public:
         const auto existing = m_accounts.byEmail(email);
         const qint64 id = existing ? *existing : m_accounts.create(email, *locale);
         m_accounts.setLocale(id, *locale);
-        const bool seeker =
-            m_context.store.scalar(QStringLiteral("SELECT 1 FROM seekers WHERE email = ?"), {email})
-                .isValid();
-        return Envelope::ok(QJsonObject{{QStringLiteral("token"), m_accounts.issueToken(id)},
-                                        {QStringLiteral("employer"), m_accounts.profile(id)},
-                                        {QStringLiteral("seeker"), seeker}});
+        const auto seeker = m_seekers.byEmail(email);
+        Reply reply = Envelope::ok(QJsonObject{{QStringLiteral("token"), m_accounts.issueToken(id)},
+                                               {QStringLiteral("employer"), m_accounts.profile(id)},
+                                               {QStringLiteral("seeker"), seeker.has_value()}});
+        // The address is proven for both sides: the job seeker's session opens with it.
+        if (seeker)
+            reply.withHeader("Set-Cookie", SeekerSessions::setCookie(m_sessions.open(*seeker)));
+        return reply;
     }
 
     Reply logout(const Request& request)
@@ -111,6 +120,8 @@ public:
 private:
     Context& m_context;
     EmployerAccounts m_accounts;
+    SeekerAccounts m_seekers;
+    SeekerSessions m_sessions;
     CodeBook m_codes;
     RateLimit m_requests;
     RateLimit m_failures;

@@ -29,6 +29,9 @@ Reply setFault(FaultTable& faults, const Request& request)
     if (mode == QLatin1String("slow")) {
         fault.mode = Fault::Mode::Slow;
         fault.delay = body.value(QStringLiteral("delay")).toDouble(1);
+        // Written so that NaN fails too.
+        if (!(fault.delay >= 0 && fault.delay <= Fault::longestDelay))
+            return Envelope::badInput(QStringLiteral("delay"));
     } else if (mode == QLatin1String("html")) {
         fault.mode = Fault::Mode::Html;
     } else if (mode == QLatin1String("status")) {

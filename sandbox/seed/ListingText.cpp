@@ -121,7 +121,7 @@ QStringList requirements(const ListingTerms& t, const QString& lang)
 QStringList offers(const ListingTerms& t, const QString& lang)
 {
     Trilingual terms;
-    if (t.employmentType == QLatin1String("part_time"))
+    if (t.employmentType == QLatin1String("part"))
         terms = {u8("ნახევარი განაკვეთი, მოქნილი გრაფიკი."), u8("Part-time with flexible hours."),
                  u8("Частичная занятость, гибкий график.")};
     else if (t.employmentType == QLatin1String("shift"))

@@ -37,10 +37,10 @@ TEST(SecureStore, TheSessionCookieAndTheStoredEntriesOutliveTheProcessInTheKeyri
         wait(first->secrets().set(QStringLiteral("not json"), QStringLiteral("candidate-apps")));
         wait(first->candidateStore.open());
         EXPECT_TRUE(first->candidateStore.entries().empty());
-        wait(first->candidateStore.add({QStringLiteral("A1"), QStringLiteral("K1"),
-                                        QStringLiteral("Cook"), QStringLiteral("Kodari"),
-                                        QStringLiteral("application"),
-                                        QStringLiteral("2026-05-01T10:00:00Z")}));
+        wait(first->candidateStore.add(
+            {QStringLiteral("A1"), QStringLiteral("K1"), QStringLiteral("Cook"),
+             QStringLiteral("Kodari"), QStringLiteral("application"),
+             QDateTime::fromString(QStringLiteral("2026-05-01T10:00:00Z"), Qt::ISODate)}));
         CandidateGate gate(first->candidate, first->appState, [](const QUrl&) { return true; });
         gate.email = email;
         wait(gate.sendCode());
@@ -48,7 +48,7 @@ TEST(SecureStore, TheSessionCookieAndTheStoredEntriesOutliveTheProcessInTheKeyri
         wait(gate.verifyCode());
         wait(gate.continueMailOnly());
         ASSERT_TRUE(first->candidate.signedIn());
-        wait(first->cookies.settle());
+        wait(first->settle());
     }
     auto second = makeContext({.site = sandbox.site(), .realSecretService = true});
     wait(second->start());
@@ -59,7 +59,7 @@ TEST(SecureStore, TheSessionCookieAndTheStoredEntriesOutliveTheProcessInTheKeyri
 
     second->candidate.completeSignIn(email);
     wait(second->candidate.signOut());
-    wait(second->cookies.settle());
+    wait(second->settle());
     auto third = makeContext({.site = sandbox.site(), .realSecretService = true});
     wait(third->start());
     EXPECT_FALSE(sessionAccepted(*third));

@@ -196,3 +196,16 @@ TEST_F(APIClientTest, QueryValuesTravelAsTyped)
     EXPECT_EQ(query.queryItemValue(QStringLiteral("page")), QStringLiteral("2"));
     EXPECT_FALSE(api.url(QStringLiteral("config")).hasQuery());
 }
+
+TEST_F(APIClientTest, APathKeepsItsSlashesAndNothingElseLeavesIt)
+{
+    const QUrl nested = api.url(QStringLiteral("jobs/VL1/forms"));
+    EXPECT_EQ(nested.path(), QStringLiteral("/api/app/v1/jobs/VL1/forms"));
+    // A value with "?" or "#" stays in the path instead of starting a query or a fragment.
+    const QUrl odd = api.url(QStringLiteral("company/a b?c#d%e"));
+    EXPECT_EQ(odd.path(), QStringLiteral("/api/app/v1/company/a b?c#d%e"));
+    EXPECT_FALSE(odd.hasQuery());
+    EXPECT_FALSE(odd.hasFragment());
+    EXPECT_EQ(api.url(QStringLiteral("/api/candidate/logout")).path(),
+              QStringLiteral("/api/candidate/logout"));
+}

@@ -2,6 +2,7 @@
 
 #include "app/discovery/FilterBindings.h"
 #include "app/discovery/JobDetailModel.h"
+#include "app/discovery/LedgerModel.h"
 #include "app/service/NetworkSession.h"
 #include "app/shell/Router.h"
 #include "tests/support/ManualScheduler.h"
@@ -270,4 +271,52 @@ TEST_F(BoardModelTest, TheDetailLoadsWithFormsAndBecomesTheReadingJob)
     EXPECT_TRUE(detail.failed());
     EXPECT_FALSE(detail.detail());
     EXPECT_FALSE(router.readingJob());
+}
+
+TEST_F(BoardModelTest, TheLedgerRegroupsAtMidnightWithoutALoadAndTagsDirectListings)
+{
+    wait(model.load(Lang::en, true, false));
+    // Noon in UTC is 16:00 on the board's clock; its midnight is 20:00 UTC.
+    QDateTime now = QDateTime::fromString(QStringLiteral("2026-03-10T12:00:00Z"), Qt::ISODate);
+    LedgerModel ledger(model, scheduler, [&now] { return now; });
+    ledger.setLang(Lang::en);
+    const auto dayHeads = [&ledger] {
+        QStringList heads;
+        for (int row = 0; row < ledger.rowCount(); ++row) {
+            const QModelIndex index = ledger.index(row);
+            if (index.data(LedgerModel::IsHeadRole).toBool() &&
+                !index.data(LedgerModel::PinnedHeadRole).toBool())
+                heads << index.data(LedgerModel::HeadTextRole).toString();
+        }
+        return heads;
+    };
+    ASSERT_FALSE(dayHeads().isEmpty());
+    EXPECT_EQ(dayHeads().first(), QStringLiteral("Today"));
+
+    const int requestsBefore = int(requests(jobsPath).size());
+    scheduler.advance(7 * 3600 * 1000);
+    EXPECT_EQ(dayHeads().first(), QStringLiteral("Today"));
+    now = now.addSecs(8 * 3600);
+    scheduler.advance(3600 * 1000 + 1);
+    EXPECT_EQ(dayHeads().first(), QStringLiteral("Yesterday"));
+    EXPECT_FALSE(dayHeads().contains(QStringLiteral("Today")));
+    EXPECT_EQ(int(requests(jobsPath).size()), requestsBefore);
+    // And again the night after.
+    now = now.addDays(1);
+    scheduler.advance(24 * 3600 * 1000 + 1);
+    EXPECT_EQ(dayHeads().first(), QStringLiteral("This week"));
+    EXPECT_FALSE(dayHeads().contains(QStringLiteral("Yesterday")));
+
+    int direct = 0;
+    for (int row = 0; row < ledger.rowCount(); ++row) {
+        const JobSummary* job = ledger.jobAt(row);
+        const QString tag = ledger.index(row).data(LedgerModel::DirectTagRole).toString();
+        if (job && job->direct.value_or(false)) {
+            ++direct;
+            EXPECT_EQ(tag, QStringLiteral("Direct · Apply here"));
+        } else {
+            EXPECT_TRUE(tag.isEmpty());
+        }
+    }
+    EXPECT_GT(direct, 0) << "the seed has direct listings on its first page";
 }

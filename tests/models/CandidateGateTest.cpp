@@ -229,6 +229,25 @@ TEST_F(CandidateGateTest, SignOutIsImmediateThenTokensLogoutAndOnlyTheSessionCoo
     EXPECT_EQ(pathsSince(again), QStringList{QStringLiteral("/api/candidate/logout")});
 }
 
+TEST_F(CandidateGateTest, ASignOutInTheSameSheetStartsTheFormAgainAtTheAddress)
+{
+    throughCode(tamar);
+    wait(gate.continueMailOnly());
+    ASSERT_TRUE(gate.finished());
+
+    wait(context->candidate.signOut());
+    EXPECT_FALSE(gate.finished());
+    EXPECT_EQ(gate.step(), Step::email);
+    EXPECT_TRUE(gate.email.isEmpty());
+    EXPECT_TRUE(gate.ticket().isEmpty());
+
+    // And it goes the whole way again.
+    throughCode(tamar);
+    wait(gate.continueMailOnly());
+    EXPECT_TRUE(gate.finished());
+    EXPECT_TRUE(sessionAccepted());
+}
+
 TEST(CandidateAuth, SignOutWithoutANetworkStillDropsTheSessionCookie)
 {
     auto context = makeContext({QStringLiteral("http://127.0.0.1:9")});
@@ -256,24 +275,26 @@ TEST(CandidateAuth, AdoptionNeedsAnEmployerAndOnlyAnAdoptedIdentityLeavesWithThe
     EXPECT_FALSE(candidate.adoptedFromEmployer());
 
     candidate.completeSignIn(QStringLiteral("self@b.ge"));
-    candidate.employerSignedOut();
+    wait(candidate.employerSignedOut());
     EXPECT_EQ(candidate.email(), QStringLiteral("self@b.ge"));
     EXPECT_FALSE(candidate.declined());
 
     candidate.markAdopted();
-    candidate.employerSignedOut();
+    wait(candidate.employerSignedOut());
     EXPECT_FALSE(candidate.signedIn());
     EXPECT_FALSE(candidate.declined()); // a later employer sign-in may adopt again
     EXPECT_FALSE(preferencesOf(*context).value(QStringLiteral("vl.seekerDeclined")).toBool());
 
     candidate.markAdopted();
     candidate.completeSignIn(QStringLiteral("both@b.ge"));
-    candidate.signOut();
+    wait(candidate.signOut());
     EXPECT_TRUE(candidate.declined());
     EXPECT_FALSE(candidate.adoptedFromEmployer());
     // A restart reads the decline back and keeps adoption away.
-    CandidateAuth restarted(context->preferences(), context->session(),
-                            *std::make_unique<NoPasskeyAuthenticator>(), context->site());
+    NoPasskeyAuthenticator noPasskeys;
+    CandidateAuth restarted(
+        {context->preferences(), context->session(), noPasskeys, context->pending},
+        context->site());
     EXPECT_TRUE(restarted.declined());
     EXPECT_FALSE(restarted.signedIn());
 }
@@ -282,7 +303,7 @@ TEST_F(CandidateGateTest, TheSessionCookieComesBackFromTheSecureStoreAfterAResta
 {
     throughCode(tamar);
     wait(gate.continueMailOnly());
-    wait(context->cookies.settle());
+    wait(context->settle());
     const auto kept = secretsOf(*context).items.value(QStringLiteral("cookies"));
     ASSERT_TRUE(kept.contains(QStringLiteral("vl_cand="))) << kept.toStdString();
 

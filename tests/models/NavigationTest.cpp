@@ -98,12 +98,13 @@ TEST_F(NavigationTest, NextPlaceWrapsThroughTheVisibleSections)
     EXPECT_EQ(reloads.count(), 2);
 }
 
-TEST_F(NavigationTest, WebLinksOpenOnlyVacanciesOnOurOrigins)
+TEST_F(NavigationTest, WebLinksOpenOnlyVacanciesDecidedByTheirPath)
 {
     nav.setSection(MacSection::inbox);
     EXPECT_FALSE(links.open(QUrl(QStringLiteral("https://velmora.ge/ka/gig/vl30003-cleaning"))));
-    EXPECT_FALSE(links.open(QUrl(QStringLiteral("https://other.example/vacancy/vl30001"))));
     EXPECT_FALSE(links.open(QUrl(QStringLiteral("https://velmora.ge/inbox/pro"))));
+    EXPECT_FALSE(links.open(QUrl(QStringLiteral("https://velmora.ge/vacancy/"))));
+    EXPECT_FALSE(links.open(QUrl(QStringLiteral("https://velmora.ge/de/vacancy/vl30001"))));
     EXPECT_EQ(nav.section(), MacSection::inbox);
     EXPECT_EQ(router.selectedJob(), std::nullopt);
 
@@ -112,4 +113,8 @@ TEST_F(NavigationTest, WebLinksOpenOnlyVacanciesOnOurOrigins)
     EXPECT_EQ(router.selectedJob(), QStringLiteral("VL30001"));
     EXPECT_TRUE(links.open(QUrl(QStringLiteral("http://localhost:4321/vacancy/vl30002"))));
     EXPECT_EQ(router.selectedJob(), QStringLiteral("VL30002"));
+    // The desktop hands over only the links it registered the client for; the host is not
+    // asked again.
+    EXPECT_TRUE(links.open(QUrl(QStringLiteral("https://velmora.example/vacancy/vl30003"))));
+    EXPECT_EQ(router.selectedJob(), QStringLiteral("VL30003"));
 }

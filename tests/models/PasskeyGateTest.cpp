@@ -67,7 +67,8 @@ protected:
     SandboxProcess sandbox;
     std::unique_ptr<AppContext> context = makeContext({sandbox.site()});
     ScriptedPasskeys passkeys;
-    CandidateAuth auth{context->preferences(), context->session(), passkeys, sandbox.site()};
+    CandidateAuth auth{{context->preferences(), context->session(), passkeys, context->pending},
+                       sandbox.site()};
     CandidateGate gate{auth, context->appState, [](const QUrl&) { return true; }};
 };
 

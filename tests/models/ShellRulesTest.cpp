@@ -5,7 +5,6 @@
 
 #include <QNetworkCookie>
 #include <QNetworkCookieJar>
-#include <QTest>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -104,6 +103,28 @@ TEST(VersionGate, BuildNumbersAndGates)
     EXPECT_FALSE(updateAvailable(latest, 60));
 }
 
+TEST(VersionGate, BuildsBeyondThirtyTwoBitsAndEmptyAddresses)
+{
+    const auto config = json::decode<ConfigPayload>(
+        R"({"rev":1,"minBuild":5000000000,"latestBuild":5000000002,"locales":[],)"
+        R"("categories":[],"cities":[],"employmentTypes":[],"storeUrl":"https://store",)"
+        R"("updateUrl":"","testflightUrl":""})");
+    ASSERT_TRUE(config);
+    EXPECT_EQ(config->minBuild, 5'000'000'000);
+    // Read as 32 bits, 5000000000 would be a small number, and this build would pass the gate.
+    EXPECT_EQ(updateRequired(*config, 4'999'999'999, QStringLiteral("https://site")),
+              (UpdateRequired{QStringLiteral("https://store"), QStringLiteral("https://store")}));
+    EXPECT_FALSE(updateRequired(*config, 5'000'000'000, QStringLiteral("https://site")));
+    EXPECT_EQ(updateAvailable(*config, 5'000'000'001),
+              (UpdateAvailable{5'000'000'002, QStringLiteral("https://store")}));
+
+    ConfigPayload nowhere;
+    nowhere.latestBuild = 60;
+    nowhere.updateUrl = QString();
+    nowhere.storeUrl = QString();
+    EXPECT_FALSE(updateAvailable(nowhere, 10));
+}
+
 TEST(SecretStore, SoftValuesFallBackToPreferencesOnlyWhenTheStoreLosesThem)
 {
     MemoryPreferences preferences;
@@ -130,7 +151,7 @@ TEST(Session, ClearingForgetsTheEmployerAndOnlyAnAdoptedJobSeeker)
     // A job seeker who signed in on their own stays.
     context->candidate.completeSignIn(QStringLiteral("nino@example.ge"));
     context->inbox.setUnread(4);
-    context->auth.clearSession();
+    wait(context->auth.clearSession());
     EXPECT_FALSE(context->auth.token());
     EXPECT_FALSE(secrets.items.contains(QStringLiteral("session")));
     EXPECT_EQ(secrets.calls.last(), QStringLiteral("delete session"));
@@ -143,14 +164,14 @@ TEST(Session, ClearingForgetsTheEmployerAndOnlyAnAdoptedJobSeeker)
     QNetworkCookie other("theme", "dark");
     jar.setCookiesFromUrl({cookie, other}, QUrl(deadSite));
     context->candidate.markAdopted();
-    context->auth.clearSession();
+    auto cleared = context->auth.clearSession();
     EXPECT_FALSE(context->candidate.email());
     EXPECT_FALSE(context->candidate.declined());
     EXPECT_FALSE(context->candidate.adoptedFromEmployer());
     EXPECT_EQ(context->inbox.unread(), 0);
-    // The cookie goes after the service's logout, which cannot be reached here.
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return jar.cookiesForUrl(QUrl(deadSite)).size() < 2; }, 5000));
+    // The cookie goes after the service's logout, which cannot be reached here, and the
+    // clearing ends only once it is gone.
+    wait(std::move(cleared));
     const auto left = jar.cookiesForUrl(QUrl(deadSite));
     ASSERT_EQ(left.size(), 1);
     EXPECT_EQ(left.first().name(), QByteArray("theme"));

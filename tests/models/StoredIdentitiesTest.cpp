@@ -19,7 +19,7 @@ CandidateEntry application(const QString& ref)
             QStringLiteral("Barista"),
             QStringLiteral("Kodari"),
             QStringLiteral("application"),
-            QStringLiteral("2026-05-01T10:00:00Z")};
+            QDateTime::fromString(QStringLiteral("2026-05-01T10:00:00Z"), Qt::ISODate)};
 }
 
 } // namespace
@@ -44,6 +44,36 @@ TEST(CandidateStore, KeepsTheNewestFirstAcrossRestartsAndSignOuts)
     EXPECT_FALSE(restarted->candidateStore.entry(QStringLiteral("none")));
 }
 
+TEST(StoredIdentities, AnAddBeforeAnyOpenKeepsWhatTheStoreAlreadyHeld)
+{
+    auto first = makeContext({QStringLiteral("http://127.0.0.1:9")});
+    wait(first->candidateStore.add(application(QStringLiteral("A1"))));
+    wait(first->seekerStore.add(
+        {QStringLiteral("S1"), QStringLiteral("key-1"), QStringLiteral("Cook"),
+         QDateTime::fromString(QStringLiteral("2026-05-01"), Qt::ISODate)}));
+
+    // A new run adds at once, before anybody opened the lists.
+    auto second = makeContext({QStringLiteral("http://127.0.0.1:9")});
+    secretsOf(*second).items = secretsOf(*first).items;
+    wait(second->candidateStore.add(application(QStringLiteral("A2"))));
+    wait(second->seekerStore.add(
+        {QStringLiteral("S2"), QStringLiteral("key-2"), QStringLiteral("Driver"),
+         QDateTime::fromString(QStringLiteral("2026-05-02"), Qt::ISODate)}));
+    wait(second->candidateStore.open());
+    ASSERT_EQ(second->candidateStore.entries().size(), 2u);
+    EXPECT_EQ(second->candidateStore.entries()[0].ref, QStringLiteral("A2"));
+    EXPECT_EQ(second->seekerStore.entries().size(), 2u);
+
+    auto third = makeContext({QStringLiteral("http://127.0.0.1:9")});
+    secretsOf(*third).items = secretsOf(*second).items;
+    wait(third->candidateStore.open());
+    wait(third->seekerStore.open());
+    ASSERT_EQ(third->candidateStore.entries().size(), 2u);
+    EXPECT_EQ(third->candidateStore.entry(QStringLiteral("A1"))->key, QStringLiteral("k-A1"));
+    ASSERT_EQ(third->seekerStore.entries().size(), 2u);
+    EXPECT_EQ(third->seekerStore.entries()[1].key, QStringLiteral("key-1"));
+}
+
 TEST(StoredIdentities, ACorruptItemReadsAsEmptyAndTheNextSaveReplacesIt)
 {
     auto context = makeContext({QStringLiteral("http://127.0.0.1:9")});
@@ -55,8 +85,9 @@ TEST(StoredIdentities, ACorruptItemReadsAsEmptyAndTheNextSaveReplacesIt)
     EXPECT_TRUE(context->candidateStore.entries().empty());
     EXPECT_TRUE(context->seekerStore.entries().empty());
 
-    wait(context->seekerStore.add({QStringLiteral("S1"), QStringLiteral("key"),
-                                   QStringLiteral("Cook"), QStringLiteral("2026-05-01")}));
+    wait(context->seekerStore.add(
+        {QStringLiteral("S1"), QStringLiteral("key"), QStringLiteral("Cook"),
+         QDateTime::fromString(QStringLiteral("2026-05-01"), Qt::ISODate)}));
     const QJsonArray saved =
         QJsonDocument::fromJson(items.value(QStringLiteral("seeker-profiles")).toUtf8()).array();
     ASSERT_EQ(saved.size(), 1);

@@ -334,7 +334,7 @@ TEST_F(BoardScreenTest, TheHiringGroupAndItsBadgesFollowTheEmployersSession)
     // Standing on a hiring section when the session ends leaves for the board.
     selectSection(MacSection::applicants);
     EXPECT_EQ(context->nav.section(), MacSection::applicants);
-    context->auth.clearSession();
+    wait(context->auth.clearSession());
     EXPECT_EQ(rowOf(MacSection::listings), nullptr);
     EXPECT_EQ(context->nav.section(), MacSection::vacancies);
 }

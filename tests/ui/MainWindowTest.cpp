@@ -1,5 +1,6 @@
 #include "app/shell/MainWindow.h"
 
+#include "app/shell/QuitWhenSettled.h"
 #include "app/shell/UpdateRequiredScreen.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
@@ -8,11 +9,13 @@
 #include "tests/ui/UrlCatcher.h"
 
 #include <QAction>
+#include <QCoroTimer>
 #include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -212,4 +215,34 @@ TEST(MainWindow, CheckForUpdatesLeadsToTheSiteWhenConfigNamesNoPage)
     UrlCatcher urls;
     part<QAction>(window, "vl.action.checkUpdates")->trigger();
     EXPECT_EQ(urls.opened, QList<QUrl>{QUrl(QStringLiteral("http://127.0.0.1:9"))});
+}
+
+TEST(MainWindow, QuittingWaitsForTheWritesStillUnderWay)
+{
+    auto context = makeContext({QStringLiteral("http://127.0.0.1:9")});
+    MainWindow window(*context);
+    showAndWait(window);
+    bool written = false;
+    std::optional<bool> writtenAtQuit;
+    quitWhenSettled(*qGuiApp, *context, [&] {
+        writtenAtQuit = written;
+        QCoreApplication::quit();
+    });
+    // As a sign-out clicked just before quitting would leave it.
+    context->pending.guard([](bool& done) -> QCoro::Task<> {
+        co_await QCoro::sleepFor(std::chrono::milliseconds(300));
+        done = true;
+    }(written));
+
+    QTimer::singleShot(0, &window,
+                       [&window] { part<QAction>(window, "vl.action.quit")->trigger(); });
+    QTimer safety;
+    safety.setSingleShot(true);
+    QObject::connect(&safety, &QTimer::timeout, [] { QCoreApplication::quit(); });
+    safety.start(10000);
+    QCoreApplication::exec();
+    safety.stop();
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    ASSERT_TRUE(writtenAtQuit.has_value()) << "the window never quit";
+    EXPECT_TRUE(*writtenAtQuit);
 }

@@ -1,5 +1,6 @@
 #include "core/identity/CandidateReplies.h"
 #include "core/identity/OAuthCallback.h"
+#include "core/identity/StoredEntries.h"
 #include "core/identity/TotpKey.h"
 #include "core/identity/WebAuthn.h"
 
@@ -82,4 +83,25 @@ TEST(CandidateReplies, EnvelopeCallsReadAnEmptyNoOrAnEmptyYesAsAWrongCode)
               APIError::server(QStringLiteral("rate")));
     EXPECT_EQ(readEnvelope<Ticket>(R"({"ok":true,"data":{"ticket":"T"}})", 500)->ticket,
               QStringLiteral("T"));
+}
+
+TEST(StoredEntries, CreatedAtIsAMomentThatSurvivesTheStore)
+{
+    const QDateTime sent(QDate(2026, 5, 1), QTime(10, 0, 0, 250), Qt::UTC);
+    const CandidateEntry entry{QStringLiteral("A1"),          QStringLiteral("k"),
+                               QStringLiteral("Cook"),        QStringLiteral("Kodari"),
+                               QStringLiteral("application"), sent};
+    const auto back = json::decode<std::vector<CandidateEntry>>(json::encode(std::vector{entry}));
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->at(0).createdAt, sent);
+
+    // Another zone is the same moment; a text that is no moment, or a number, fails the list.
+    const auto zoned = json::decode<std::vector<SeekerProfileEntry>>(
+        R"([{"ref":"S","key":"k","title":"t","createdAt":"2026-05-01T14:00:00.250+04:00"}])");
+    ASSERT_TRUE(zoned);
+    EXPECT_EQ(zoned->at(0).createdAt, sent);
+    EXPECT_FALSE(json::decode<std::vector<SeekerProfileEntry>>(
+        R"([{"ref":"S","key":"k","title":"t","createdAt":"yesterday"}])"));
+    EXPECT_FALSE(json::decode<std::vector<SeekerProfileEntry>>(
+        R"([{"ref":"S","key":"k","title":"t","createdAt":799322400}])"));
 }

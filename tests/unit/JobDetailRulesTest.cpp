@@ -71,7 +71,7 @@ TEST(JobDetailRules, PayLineNamesThePeriodOrSaysNegotiable)
 TEST(JobDetailRules, NotesFollowTheListingsFlags)
 {
     JobDetail plain;
-    EXPECT_TRUE(notes(plain, Lang::en).isEmpty());
+    EXPECT_EQ(notes(plain, Lang::en), QStringList{QStringLiteral("0 views")});
 
     JobDetail job;
     job.translated = true;

@@ -68,3 +68,17 @@ TEST(TranslitSubtitle, TrimmedAndMixedNames)
     EXPECT_FALSE(Translit::subtitle(QStringLiteral("Її"), Lang::en));
     EXPECT_EQ(Translit::subtitle(QStringLiteral("Anaъ"), Lang::en), QStringLiteral("Ana"));
 }
+
+TEST(TranslitLatin, GoesByTheCharactersAReaderSees)
+{
+    // "й" typed as "и" and a combining breve is the table's "й", and so is "Ё" made of two.
+    EXPECT_EQ(Translit::latin(u"\u0438\u0306\u043E\u0433\u0430"), QStringLiteral("Yoga"));
+    EXPECT_EQ(Translit::latin(u"\u0415\u0308\u043B\u043A\u0430"), QStringLiteral("Yolka"));
+    // A mark on a Latin letter belongs to it (and joins it): the word goes on, the next letter
+    // stays small.
+    EXPECT_EQ(Translit::latin(u"Cafe\u0301ნ"), QStringLiteral("Caf\u00E9n"));
+    // A letter outside the first plane is one letter, not two halves that end a word.
+    EXPECT_EQ(Translit::latin(u"\U0001D49Cნ"), QStringLiteral("\U0001D49Cn"));
+    // An emoji is no letter: what follows it starts a word.
+    EXPECT_EQ(Translit::latin(u"\U0001F600ნინო"), QStringLiteral("\U0001F600Nino"));
+}
