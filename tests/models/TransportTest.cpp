@@ -1,3 +1,4 @@
+#include "app/platform/PendingWrites.h"
 #include "app/service/APIClient.h"
 #include "app/service/CookieVault.h"
 #include "app/service/NetworkSession.h"
@@ -322,6 +323,7 @@ TEST(TransportCookieTest, CookiesRestoredFromTheSecureStoreAreCheckedLikeAnAnswe
 {
     test::MemoryPreferences preferences;
     test::MemorySecretStore secrets(preferences);
+    PendingWrites pending;
     QNetworkAccessManager session;
     const QString site = QStringLiteral("http://127.0.0.1:4321");
     secrets.items.insert(QString::fromLatin1(CookieVault::storeKey),
@@ -330,7 +332,7 @@ TEST(TransportCookieTest, CookiesRestoredFromTheSecureStoreAreCheckedLikeAnAnswe
                                         "broken=a\rb\n"
                                         "=; ;;; \x01\x7f\n") +
                              QString(5000, QLatin1Char('x')) + QStringLiteral("=1\n"));
-    CookieVault vault(secrets, session, site);
+    CookieVault vault(secrets, pending, session, site);
     wait(vault.restore());
     const auto kept = session.cookieJar()->cookiesForUrl(QUrl(site));
     ASSERT_EQ(kept.size(), 1);
@@ -338,7 +340,7 @@ TEST(TransportCookieTest, CookiesRestoredFromTheSecureStoreAreCheckedLikeAnAnswe
 
     secrets.items.insert(QString::fromLatin1(CookieVault::storeKey),
                          QString(2 * 1024 * 1024, QLatin1Char(';')));
-    CookieVault flooded(secrets, session, site);
+    CookieVault flooded(secrets, pending, session, site);
     wait(flooded.restore());
 }
 
