@@ -11,6 +11,7 @@ packages=(
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   dbus dbus-x11 gnome-keyring libsecret-tools
   xvfb xauth x11-utils imagemagick
+  poppler-utils unzip
   fonts-noto-core fonts-dejavu-core
 )
 
