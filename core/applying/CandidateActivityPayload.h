@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/json/Json.h"
-#include "core/session/NextStepDTO.h"
+#include "core/session/MePayload.h"
 
 #include <optional>
 #include <vector>
