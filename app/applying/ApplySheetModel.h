@@ -29,6 +29,7 @@ public:
     std::map<QString, QString> answers;
 
     const JobDetail& job() const { return m_job; }
+    const ApplyServices& services() const { return m_services; }
     std::optional<QString> email() const;
     const std::optional<CvFile>& cv() const { return m_cv; }
     const std::optional<CvFile>& lastCv() const { return m_lastCv; }

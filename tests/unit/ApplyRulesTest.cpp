@@ -1,6 +1,7 @@
 #include "core/applying/ApplyRules.h"
 
 #include "core/applying/AnswerText.h"
+#include "core/applying/ApplicationStatus.h"
 #include "core/applying/CvUpdateRules.h"
 #include "core/applying/SeekerPostForm.h"
 #include "core/l10n/L10n.h"
@@ -261,4 +262,12 @@ TEST(AnswerText, MultiKeepsTheOptionsOrderAndDatesAreTbilisiDays)
     // 21:30 UTC is already the next day in Tbilisi.
     EXPECT_EQ(AnswerText::date(QDateTime(QDate(2026, 3, 1), QTime(21, 30), QTimeZone::utc())),
               QStringLiteral("2026-03-02"));
+}
+
+TEST(ApplicationStatus, KnownStatusesReadAsStagesAndOthersAsSent)
+{
+    EXPECT_EQ(applicationStatusText(QStringLiteral("new"), Lang::en), QStringLiteral("Sent"));
+    EXPECT_EQ(applicationStatusText(QStringLiteral("withdrawn"), Lang::en),
+              QStringLiteral("Withdrawn"));
+    EXPECT_EQ(applicationStatusText(QStringLiteral("paused"), Lang::en), QStringLiteral("paused"));
 }
