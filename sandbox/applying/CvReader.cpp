@@ -53,7 +53,8 @@ QString docxText(const QByteArray& data)
 
 QStringList wordsOf(const QString& text)
 {
-    static const QRegularExpression separators(QStringLiteral("[^\\w+#]+"));
+    static const QRegularExpression separators(QStringLiteral("[^\\w+#]+"),
+                                               QRegularExpression::UseUnicodePropertiesOption);
     return text.toLower().split(separators, Qt::SkipEmptyParts);
 }
 
