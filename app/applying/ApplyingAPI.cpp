@@ -154,6 +154,22 @@ QCoro::Task<Result<CandidateCvUpdate>> ApplyingAPI::updateCv(QString ref, QStrin
         owner);
 }
 
+QCoro::Task<Result<QByteArray>> ApplyingAPI::cvFile(QString ref, QString key, QObject* owner) const
+{
+    APIClient::Query query;
+    if (!key.isEmpty())
+        query[QStringLiteral("key")] = key;
+    const APIClient::Request request = privateRead(
+        QStringLiteral("candidate/") + segment(ref) + QStringLiteral("/cv"), std::move(query));
+    QNetworkReply* reply = m_api.send(request, owner);
+    const HttpExchange got = co_await finish(reply);
+    if (!got.answered())
+        co_return APIError::network();
+    if (got.status != 200)
+        co_return APIError::http(got.status);
+    co_return got.body;
+}
+
 QCoro::Task<Result<CvTextPayload>> ApplyingAPI::cvText(QString id, Lang to, QObject* owner) const
 {
     return m_api.call<CvTextPayload>(

@@ -51,6 +51,8 @@ public:
     QCoro::Task<Result<WithdrawResult>> withdraw(QString ref, QString key, QObject* owner) const;
     QCoro::Task<Result<CandidateCvUpdate>> updateCv(QString ref, QString key, QString note,
                                                     CvFile cv, QObject* owner) const;
+    // The CV's bytes as the employer has them.
+    QCoro::Task<Result<QByteArray>> cvFile(QString ref, QString key, QObject* owner) const;
     QCoro::Task<Result<CvTextPayload>> cvText(QString id, Lang to, QObject* owner) const;
 
     QCoro::Task<Result<SeekerPostResult>> postSeeker(SeekerPostForm form, QObject* owner) const;

@@ -4,6 +4,7 @@
 #include "app/shell/AppState.h"
 
 #include <QPointer>
+#include <QSaveFile>
 
 namespace vl {
 
@@ -63,6 +64,24 @@ QCoro::Task<> CandidateConversationModel::withdraw()
         co_return;
     }
     co_await load();
+}
+
+QCoro::Task<std::optional<QString>> CandidateConversationModel::cvCopy()
+{
+    if (!m_conversation || !m_conversation->application.cv)
+        co_return std::nullopt;
+    QPointer self(this);
+    const auto bytes = co_await m_services.api.cvFile(m_ref, m_key, this);
+    if (!self || !bytes)
+        co_return std::nullopt;
+    // Each copy lives in a fresh folder that goes with the screen.
+    m_cvFolder = std::make_unique<QTemporaryDir>();
+    const QString name = m_conversation->application.cv->name.value_or(QStringLiteral("cv"));
+    QSaveFile file(m_cvFolder->filePath(name.mid(name.lastIndexOf(QLatin1Char('/')) + 1)));
+    if (!m_cvFolder->isValid() || !file.open(QIODevice::WriteOnly) ||
+        file.write(bytes.value()) != bytes->size() || !file.commit())
+        co_return std::nullopt;
+    co_return file.fileName();
 }
 
 void CandidateConversationModel::cvUpdated(const CandidateCvUpdate& update)

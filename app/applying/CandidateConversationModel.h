@@ -6,6 +6,8 @@
 
 #include <QCoroTask>
 #include <QObject>
+#include <QTemporaryDir>
+#include <memory>
 #include <optional>
 
 namespace vl {
@@ -31,6 +33,8 @@ public:
     // A "not_found" answer ends the stored application: its entry goes from the store.
     QCoro::Task<> load();
     QCoro::Task<> withdraw();
+    // The CV as a temporary file of its own name, for the desktop to open; nothing on failure.
+    QCoro::Task<std::optional<QString>> cvCopy();
     // A newer CV accepted: the conversation takes it and its notice.
     void cvUpdated(const CandidateCvUpdate& update);
 
@@ -46,6 +50,7 @@ private:
     bool m_loading = false;
     bool m_withdrawing = false;
     bool m_newCv = false;
+    std::unique_ptr<QTemporaryDir> m_cvFolder;
 };
 
 } // namespace vl

@@ -1,5 +1,6 @@
 #include "app/applying/CandidateConversationScreen.h"
 
+#include "app/applying/CvUpdateSheet.h"
 #include "app/kit/ConfirmRow.h"
 #include "app/kit/Make.h"
 #include "app/shell/AppState.h"
@@ -7,8 +8,12 @@
 #include "core/format/Format.h"
 #include "core/l10n/L10n.h"
 
+#include <QDesktopServices>
+#include <QDialog>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QPointer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace vl {
@@ -17,6 +22,7 @@ CandidateConversationScreen::CandidateConversationScreen(ApplyServices services,
                                                          QString key, QWidget* parent)
     : QWidget(parent)
     , m_model(services, std::move(ref), std::move(key))
+    , m_services(services)
     , m_state(services.state)
 {
     setObjectName(QStringLiteral("candidateConversation"));
@@ -28,6 +34,8 @@ CandidateConversationScreen::CandidateConversationScreen(ApplyServices services,
     m_cvUpdate = make::button(this, "link");
     cvRow->addWidget(m_cv, 1);
     cvRow->addWidget(m_cvUpdate);
+    m_cvView = make::button(this, "link");
+    cvRow->addWidget(m_cvView);
     m_cvNote = make::label(this, "caption");
     m_withdraw = new ConfirmRow(
         QIcon(), [this] { m_model.withdraw(); }, this);
@@ -47,9 +55,36 @@ CandidateConversationScreen::CandidateConversationScreen(ApplyServices services,
             &CandidateConversationScreen::refresh);
     connect(&m_state, &AppState::langChanged, this, &CandidateConversationScreen::refresh);
     connect(m_retry, &QPushButton::clicked, this, [this] { m_model.load(); });
-    connect(m_cvUpdate, &QPushButton::clicked, this, &CandidateConversationScreen::updateCv);
+    connect(m_cvUpdate, &QPushButton::clicked, this, &CandidateConversationScreen::openCvUpdate);
+    connect(m_cvView, &QPushButton::clicked, this, &CandidateConversationScreen::viewCv);
     m_model.load();
     refresh();
+}
+
+QCoro::Task<> CandidateConversationScreen::viewCv()
+{
+    QPointer self(this);
+    const auto path = co_await m_model.cvCopy();
+    if (self && path)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(*path));
+}
+
+void CandidateConversationScreen::openCvUpdate()
+{
+    const auto& conversation = m_model.conversation();
+    if (!conversation || !conversation->application.cv)
+        return;
+    auto* dialog = new QDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::WindowModal);
+    auto* sheet = new CvUpdateSheet(m_services, m_model.ref(), m_model.key(),
+                                    *conversation->application.cv, dialog);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addWidget(sheet);
+    connect(&sheet->model(), &CvUpdateSheetModel::sent, &m_model,
+            &CandidateConversationModel::cvUpdated);
+    connect(sheet, &CvUpdateSheet::closed, dialog, &QDialog::accept);
+    dialog->show();
 }
 
 void CandidateConversationScreen::refresh()
@@ -90,6 +125,8 @@ void CandidateConversationScreen::refresh()
     m_cv->setText(cvLine);
     m_cvUpdate->setVisible(cv && cv->canUpdate);
     m_cvUpdate->setText(L10n::text(cv ? Key::cvSendUpdated : Key::cvAdd, lang));
+    m_cvView->setVisible(cv.has_value());
+    m_cvView->setText(L10n::text(Key::cvView, lang));
     m_cvNote->setText(!cv             ? QString()
                       : cv->canUpdate ? L10n::textNMax(Key::cvUpdatesLeft, lang, cv->left, cv->max)
                       : cv->blocked == QStringLiteral("limit")

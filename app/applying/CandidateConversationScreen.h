@@ -22,20 +22,21 @@ public:
 
     CandidateConversationModel& model() { return m_model; }
 
-Q_SIGNALS:
-    // The person wants to send a newer CV.
-    void updateCv();
-
 private:
     void refresh();
+    void openCvUpdate();
+    // The CV as the employer has it, opened with the desktop.
+    QCoro::Task<> viewCv();
 
     CandidateConversationModel m_model;
+    ApplyServices m_services;
     AppState& m_state;
     QLabel* m_title;
     QLabel* m_status;
     QLabel* m_cv;
     QLabel* m_cvNote;
     QPushButton* m_cvUpdate;
+    QPushButton* m_cvView;
     ConfirmRow* m_withdraw;
     QLabel* m_error;
     QPushButton* m_retry;

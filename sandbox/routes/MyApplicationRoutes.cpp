@@ -132,6 +132,16 @@ public:
                                         {QStringLiteral("message"), notice}});
     }
 
+    Reply cvFile(const Request& request)
+    {
+        const auto id = opened(request, request.queryValue(QStringLiteral("key")));
+        if (!id || m_applications.cvData(*id).isEmpty())
+            return Envelope::notFound();
+        Reply reply;
+        reply.body = m_applications.cvData(*id);
+        return reply.withHeader("Content-Type", "application/octet-stream");
+    }
+
     Reply cvText(const Request& request)
     {
         QSqlQuery row = m_context.store.exec(
@@ -251,6 +261,8 @@ void install(Router& router, Context& context)
                [handlers](const Request& r) { return handlers->act(r); });
     router.add("POST", base + QStringLiteral("candidate/{id}/cv"),
                [handlers](const Request& r) { return handlers->updateCv(r); });
+    router.add("GET", base + QStringLiteral("candidate/{id}/cv"),
+               [handlers](const Request& r) { return handlers->cvFile(r); });
     router.add("GET", base + QStringLiteral("cv-text"),
                [handlers](const Request& r) { return handlers->cvText(r); });
 }

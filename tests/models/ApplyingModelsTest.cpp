@@ -10,6 +10,7 @@
 #include "tests/support/TestContext.h"
 
 #include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -197,6 +198,12 @@ TEST_F(ApplyingModelsTest, CvUpdatesAnswerWithTheirCodesAndLimitsWithdrawTheOffe
     ASSERT_TRUE(conversation.conversation());
     const CandidateCvDTO cv = *conversation.conversation()->application.cv;
     EXPECT_TRUE(cv.canUpdate);
+    const auto copy = wait(conversation.cvCopy());
+    ASSERT_TRUE(copy);
+    QFile opened(*copy);
+    ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
+    EXPECT_EQ(opened.readAll(), pdfWithText("Levan 2020 levan@example.ge"));
+    EXPECT_TRUE(copy->endsWith(QStringLiteral("/cv.pdf")));
 
     CvUpdateSheetModel sheet(services(), ref, entry->key, cv);
     QObject::connect(&sheet, &CvUpdateSheetModel::sent, &conversation,
