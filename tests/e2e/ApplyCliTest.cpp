@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -23,6 +24,21 @@ protected:
                             "one)";
         ASSERT_TRUE(sandbox.started()) << sandbox.output().toStdString();
         cli.run({QStringLiteral("lang"), QStringLiteral("en")});
+    }
+
+    // The keyring is the session's: nobody stays signed in for the tests that follow.
+    void TearDown() override
+    {
+        if (!hasSessionBus() || !sandbox.started())
+            return;
+        run({QStringLiteral("candidate"), QStringLiteral("sign-out")});
+        run({QStringLiteral("employer"), QStringLiteral("sign-out")});
+        // The employer's sign-out does not yet wait for its keyring item to go; clear it here
+        // so that the next test starts signed out.
+        QProcess::execute(QStringLiteral("secret-tool"),
+                          {QStringLiteral("clear"), QStringLiteral("server"),
+                           QStringLiteral("org.velmora.app"), QStringLiteral("user"),
+                           QStringLiteral("session")});
     }
 
     CliProcess::Run run(const QStringList& args) const { return cli.run(args); }
