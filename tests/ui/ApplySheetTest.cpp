@@ -75,6 +75,15 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
     }
 
+    static QPushButton* button(QWidget& root, const QString& text)
+    {
+        for (auto* found : root.findChildren<QPushButton*>()) {
+            if (found->text() == text)
+                return found;
+        }
+        return nullptr;
+    }
+
     template <class T = QWidget>
     T* part(QWidget& root, const char* name)
     {
@@ -143,7 +152,7 @@ TEST_F(ApplyScreens, ScreenshotsOfTheSheetAndMyApplicationsInEveryLanguage)
     }
 }
 
-TEST_F(ApplyScreens, MyApplicationsIsEmptyWithoutAnyAndAConversationWithdraws)
+TEST_F(ApplyScreens, MyApplicationsIsEmptyFailsWithRetryAndAConversationWithdraws)
 {
     MyApplicationsScreen empty(services());
     show(empty);
@@ -153,6 +162,18 @@ TEST_F(ApplyScreens, MyApplicationsIsEmptyWithoutAnyAndAConversationWithdraws)
     EXPECT_FALSE(part(empty, "applicationList")->isVisible());
 
     signIn();
+    sandbox.devPost(QStringLiteral("/dev/fault"),
+                    R"({"method":"GET","path":"/api/app/v1/my/activity","mode":"html"})");
+    MyApplicationsScreen failing(services());
+    show(failing);
+    QTRY_VERIFY(!failing.model().loading());
+    auto* retry = button(failing, L10n::text(Key::retry, Lang::en));
+    ASSERT_TRUE(retry && retry->isVisible());
+    sandbox.devPost(QStringLiteral("/dev/fault/clear"), "{}");
+    retry->click();
+    QTRY_VERIFY(!retry->isVisible());
+    EXPECT_FALSE(failing.model().error());
+
     ApplySheetModel sheet(services(), withQuestions(false));
     sheet.name = QStringLiteral("Levan");
     ASSERT_TRUE(sheet.choose(writeFile(data.path(), QStringLiteral("a.pdf"), pdfWithText("x"))));
