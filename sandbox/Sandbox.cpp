@@ -1,14 +1,19 @@
 #include "sandbox/Sandbox.h"
 
+#include "sandbox/routes/ApplyRoutes.h"
 #include "sandbox/routes/AuthRoutes.h"
 #include "sandbox/routes/BoardRoutes.h"
 #include "sandbox/routes/CandidateRoutes.h"
 #include "sandbox/routes/ConfigRoutes.h"
 #include "sandbox/routes/DevRoutes.h"
 #include "sandbox/routes/MfaRoutes.h"
+#include "sandbox/routes/MyApplicationRoutes.h"
 #include "sandbox/routes/OAuthRoutes.h"
+#include "sandbox/routes/SeekerPostRoutes.h"
+#include "sandbox/seed/ApplicationSeed.h"
 #include "sandbox/seed/EmployerSeed.h"
 #include "sandbox/seed/ListingSeed.h"
+#include "sandbox/seed/SeekerPostSeed.h"
 #include "sandbox/seed/SeekerSeed.h"
 
 #include <QTextStream>
@@ -50,6 +55,8 @@ void Sandbox::seed()
     m_store.begin();
     ListingSeed::write(m_store, m_clock, EmployerSeed::write(m_store, m_clock));
     SeekerSeed::write(m_store, m_clock);
+    ApplicationSeed::write(m_store, m_clock);
+    SeekerPostSeed::write(m_store, m_clock);
     m_store.markSeeded(m_clock.now());
     m_store.commit();
 }
@@ -63,6 +70,9 @@ void Sandbox::installRoutes()
     CandidateRoutes::install(m_router, m_context);
     MfaRoutes::install(m_router, m_context);
     OAuthRoutes::install(m_router, m_context);
+    ApplyRoutes::install(m_router, m_context);
+    MyApplicationRoutes::install(m_router, m_context);
+    SeekerPostRoutes::install(m_router, m_context);
 }
 
 } // namespace vl

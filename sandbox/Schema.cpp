@@ -107,6 +107,53 @@ QStringList statements()
             token TEXT PRIMARY KEY,
             seeker_id INTEGER NOT NULL REFERENCES seekers(id) ON DELETE CASCADE,
             created_at INTEGER NOT NULL))"),
+        // Applications and questions sent to listings, with the CV the employer sees.
+        QStringLiteral(R"(CREATE TABLE IF NOT EXISTS applications(
+            id INTEGER PRIMARY KEY,
+            ref TEXT UNIQUE NOT NULL,
+            token TEXT NOT NULL,
+            seeker_id INTEGER REFERENCES seekers(id),
+            email TEXT NOT NULL COLLATE NOCASE,
+            listing_ref TEXT NOT NULL,
+            kind TEXT NOT NULL,
+            name TEXT NOT NULL,
+            phone TEXT,
+            message TEXT,
+            pool INTEGER NOT NULL DEFAULT 1,
+            answers TEXT NOT NULL DEFAULT '{}',
+            status TEXT NOT NULL DEFAULT 'new',
+            cv_name TEXT, cv_mime TEXT, cv_data BLOB, cv_updated_at INTEGER,
+            cv_left INTEGER NOT NULL DEFAULT 3,
+            gold INTEGER NOT NULL DEFAULT 0,
+            created_at INTEGER NOT NULL,
+            last_at INTEGER NOT NULL))"),
+        QStringLiteral(R"(CREATE TABLE IF NOT EXISTS app_messages(
+            id INTEGER PRIMARY KEY,
+            application_id INTEGER NOT NULL REFERENCES applications(id) ON DELETE CASCADE,
+            sender TEXT NOT NULL,
+            body TEXT NOT NULL,
+            created_at INTEGER NOT NULL))"),
+        // Public seeker profiles; they go live at `live_at`, after the review.
+        QStringLiteral(R"(CREATE TABLE IF NOT EXISTS seeker_posts(
+            ref TEXT PRIMARY KEY,
+            manage_key TEXT NOT NULL,
+            name TEXT NOT NULL, email TEXT NOT NULL COLLATE NOCASE, phone TEXT,
+            age TEXT NOT NULL, title TEXT NOT NULL, description TEXT NOT NULL,
+            category TEXT NOT NULL, city TEXT NOT NULL, type TEXT NOT NULL, lang TEXT NOT NULL,
+            created_at INTEGER NOT NULL,
+            live_at INTEGER NOT NULL))"),
+        QStringLiteral(R"(CREATE TABLE IF NOT EXISTS seeker_threads(
+            id INTEGER PRIMARY KEY,
+            post_ref TEXT NOT NULL REFERENCES seeker_posts(ref) ON DELETE CASCADE,
+            employer_id INTEGER NOT NULL REFERENCES employers(id),
+            created_at INTEGER NOT NULL,
+            last_at INTEGER NOT NULL))"),
+        QStringLiteral(R"(CREATE TABLE IF NOT EXISTS seeker_messages(
+            id INTEGER PRIMARY KEY,
+            thread_id INTEGER NOT NULL REFERENCES seeker_threads(id) ON DELETE CASCADE,
+            sender TEXT NOT NULL,
+            body TEXT NOT NULL,
+            created_at INTEGER NOT NULL))"),
     };
 }
 

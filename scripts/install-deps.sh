@@ -12,6 +12,7 @@ packages=(
   dbus dbus-x11 gnome-keyring libsecret-tools
   openssl python3
   xvfb xauth x11-utils imagemagick
+  poppler-utils unzip
   fonts-noto-core fonts-dejavu-core
 )
 

@@ -1,5 +1,6 @@
 #include "app/cli/ApiCommand.h"
 
+#include "app/cli/ApplyingOperations.h"
 #include "app/cli/CliOutput.h"
 #include "app/shell/AppContext.h"
 
@@ -148,6 +149,13 @@ QCoro::Task<int> runApi(AppContext& context, QStringList args)
             path != QLatin1StringView(operation.path))
             continue;
         const auto result = co_await operation.run(context, arguments);
+        if (!result)
+            co_return printError(result.error(), context.appState.lang());
+        printJson(result.value());
+        co_return 0;
+    }
+    if (isApplyingOperation(method, path)) {
+        const auto result = co_await runApplyingOperation(context, method, path, arguments);
         if (!result)
             co_return printError(result.error(), context.appState.lang());
         printJson(result.value());

@@ -1,6 +1,8 @@
 #include "app/cli/ApiCommand.h"
+#include "app/cli/ApplyCommand.h"
 #include "app/cli/CandidateCommand.h"
 #include "app/cli/CliOutput.h"
+#include "app/cli/SeekerCommand.h"
 #include "app/cli/ShellCommands.h"
 #include "app/cli/TextsCommand.h"
 #include "app/shell/AppContext.h"
@@ -28,8 +30,12 @@ QCoro::Task<int> dispatch(vl::AppContext& context, QStringList args)
         co_return co_await runEmployer(context, args);
     if (command == QLatin1StringView("candidate"))
         co_return co_await runCandidate(context, args);
-    co_return printUsage(
-        QStringLiteral("usage: velmora-cli api|boot|lang|employer|candidate|texts ..."));
+    if (command == QLatin1StringView("apply"))
+        co_return co_await runApply(context, args);
+    if (command == QLatin1StringView("seeker"))
+        co_return co_await runSeeker(context, args);
+    co_return printUsage(QStringLiteral(
+        "usage: velmora-cli api|boot|lang|employer|candidate|apply|seeker|texts ..."));
 }
 
 // Every command ends with what it wrote in the secure store, a cookie that came with an answer

@@ -123,6 +123,13 @@ void CandidateAuth::completeSignIn(const QString& email)
     Q_EMIT changed();
 }
 
+void CandidateAuth::sessionLost()
+{
+    m_email.reset();
+    m_preferences.remove(emailKey);
+    Q_EMIT changed();
+}
+
 void CandidateAuth::markAdopted()
 {
     m_adoptedFromEmployer = true;

@@ -59,6 +59,8 @@ public:
     bool receiveCallback(const QUrl& url);
 
     void completeSignIn(const QString& email);
+    // The service no longer knows the session: the address goes, nothing else changes.
+    void sessionLost();
     void markAdopted();
     // Signs out here at once: the address and the adoption mark go, and the choice is
     // remembered so adoption does not bring the identity back. The task that comes back is the

@@ -36,4 +36,11 @@ QCoro::Task<> CandidateStore::add(CandidateEntry entry)
     co_await std::move(saved);
 }
 
+QCoro::Task<> CandidateStore::remove(QString ref)
+{
+    auto saved = m_list.removeIf([&ref](const CandidateEntry& entry) { return entry.ref == ref; });
+    Q_EMIT changed();
+    co_await std::move(saved);
+}
+
 } // namespace vl

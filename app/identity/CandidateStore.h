@@ -20,6 +20,8 @@ public:
     std::optional<CandidateEntry> entry(const QString& ref) const;
     // The caller checks `entry(ref)` first, so that nothing doubles.
     QCoro::Task<> add(CandidateEntry entry);
+    // The service no longer knows this application: its entry goes.
+    QCoro::Task<> remove(QString ref);
 
 Q_SIGNALS:
     void changed();

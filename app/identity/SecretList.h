@@ -25,6 +25,14 @@ public:
     const std::vector<Entry>& entries() const { return m_entries; }
     bool opened() const { return m_opened; }
 
+    // Drops the entries the test picks and saves what is left.
+    template <class Pick>
+    QCoro::Task<> removeIf(Pick pick)
+    {
+        std::erase_if(m_entries, pick);
+        co_await m_secrets.set(QString::fromUtf8(json::encode(m_entries)), m_account);
+    }
+
     QCoro::Task<> open()
     {
         if (m_opened)

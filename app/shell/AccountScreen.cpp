@@ -1,5 +1,6 @@
 #include "app/shell/AccountScreen.h"
 
+#include "app/applying/ApplyingDialog.h"
 #include "app/hiring/ProfileEditScreen.h"
 #include "app/kit/ConfirmRow.h"
 #include "app/kit/Theme.h"
@@ -86,6 +87,16 @@ AccountScreen::AccountScreen(AppContext& context, QWidget* parent)
     connect(m_hiring, &QRadioButton::clicked, this,
             [this] { m_model.setWorkingAs(QStringLiteral("hiring")); });
     connect(m_profile, &QPushButton::clicked, this, &AccountScreen::openProfile);
+    auto* applications = new QPushButton(this);
+    applications->setObjectName(QStringLiteral("vl.accountScreen.myApplications"));
+    Theme::setRole(applications, "link");
+    layout->insertWidget(layout->indexOf(m_profile) + 1, applications, 0, Qt::AlignLeft);
+    connect(applications, &QPushButton::clicked, this,
+            [this] { ApplyingDialog::showMyApplications(m_context, window()); });
+    connect(&m_context.appState, &AppState::langChanged, applications, [this, applications] {
+        applications->setText(L10n::text(L10n::Key::myApplications, m_context.appState.lang()));
+    });
+    applications->setText(L10n::text(L10n::Key::myApplications, m_context.appState.lang()));
     connect(&m_model, &AccountMenuModel::changed, this, &AccountScreen::retext);
     connect(&m_context.appState, &AppState::langChanged, this, &AccountScreen::retext);
     retext();

@@ -1,5 +1,6 @@
 #include "app/shell/MainWindow.h"
 
+#include "app/applying/ApplyingDialog.h"
 #include "app/discovery/BoardScreen.h"
 #include "app/discovery/SavedScreen.h"
 #include "app/hiring/LoginSheet.h"
@@ -62,6 +63,7 @@ MainWindow::MainWindow(AppContext& context, QWidget* parent)
     m_root->addWidget(buildShell());
     setCentralWidget(m_root);
     buildMenus();
+    ApplyingDialog::follow(m_context, this);
 
     connect(&m_context.appState, &AppState::langChanged, this, &MainWindow::retext);
     connect(&m_context.taxonomy, &Taxonomy::changed, this, &MainWindow::closeGateIfRequired);

@@ -35,14 +35,23 @@ void MultipartForm::textIfAny(const QString& name, const QString& value)
 void MultipartForm::file(const QString& name, const QString& filename, const QString& mime,
                          const QByteArray& bytes)
 {
+    // Appended piece by piece: the file's bytes are copied once, straight into the body.
     m_parts += "--" + m_boundary.toUtf8() + "\r\nContent-Disposition: form-data; name=\"" +
                name.toUtf8() + "\"; filename=\"" + sanitiseFilename(filename).toUtf8() +
-               "\"\r\nContent-Type: " + mime.toUtf8() + "\r\n\r\n" + bytes + "\r\n";
+               "\"\r\nContent-Type: " + mime.toUtf8() + "\r\n\r\n";
+    m_parts += bytes;
+    m_parts += "\r\n";
 }
 
 QByteArray MultipartForm::body() const
 {
     return m_parts + "--" + m_boundary.toUtf8() + "--\r\n";
+}
+
+QByteArray MultipartForm::takeBody() &&
+{
+    m_parts += "--" + m_boundary.toUtf8() + "--\r\n";
+    return std::move(m_parts);
 }
 
 QString MultipartForm::sanitiseFilename(const QString& name)

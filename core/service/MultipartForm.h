@@ -21,8 +21,13 @@ public:
     void file(const QString& name, const QString& filename, const QString& mime,
               const QByteArray& bytes);
 
+    // Room for the parts still to come, so that a large file part is not copied on growth.
+    void reserve(qsizetype bytes) { m_parts.reserve(bytes); }
+
     // The finished body, with the closing boundary.
     QByteArray body() const;
+    // The same without a copy of the parts: the form is spent.
+    QByteArray takeBody() &&;
 
     // Double quotes become single quotes; carriage returns and line feeds go.
     static QString sanitiseFilename(const QString& name);

@@ -12,7 +12,6 @@
 #include "sandbox/auth/Tickets.h"
 #include "sandbox/http/Envelope.h"
 
-#include <QJsonArray>
 #include <memory>
 
 namespace vl::CandidateRoutes {
@@ -85,15 +84,6 @@ public:
             .withHeader("Set-Cookie", SeekerSessions::setCookie(m_sessions.open(seeker)));
     }
 
-    Reply activity(const Request& request)
-    {
-        if (!m_sessions.seekerOf(request))
-            return Envelope::unauthorized();
-        return Envelope::ok(QJsonObject{{QStringLiteral("applications"), QJsonArray()},
-                                        {QStringLiteral("seekerProfiles"), QJsonArray()},
-                                        {QStringLiteral("seekerThreads"), QJsonArray()}});
-    }
-
 private:
     Context& m_context;
     SeekerAccounts m_seekers;
@@ -117,8 +107,6 @@ void install(Router& router, Context& context)
                [handlers](const Request& r) { return handlers->verify(r); });
     router.add("POST", base + QStringLiteral("candidate/adopt"),
                [handlers](const Request& r) { return handlers->adopt(r); });
-    router.add("GET", base + QStringLiteral("my/activity"),
-               [handlers](const Request& r) { return handlers->activity(r); });
 }
 
 } // namespace vl::CandidateRoutes

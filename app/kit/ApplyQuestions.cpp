@@ -1,0 +1,116 @@
+#include "app/kit/ApplyQuestions.h"
+
+#include "app/kit/Make.h"
+#include "core/applying/AnswerText.h"
+#include "core/l10n/L10n.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QTimeZone>
+#include <QVBoxLayout>
+
+namespace vl {
+
+namespace {
+
+std::vector<QString> optionsOf(const FormSpecDTO::Field& field)
+{
+    return field.options.value_or(std::vector<QString>{});
+}
+
+} // namespace
+
+ApplyQuestions::ApplyQuestions(std::vector<FormSpecDTO::Field> fields, Lang lang, Answer answer,
+                               QWidget* parent)
+    : QWidget(parent)
+    , m_fields(std::move(fields))
+    , m_answer(std::move(answer))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* heading = make::label(this, "name");
+    heading->setText(L10n::text(L10n::Key::applyQuestions, lang));
+    layout->addWidget(heading);
+    for (const auto& field : m_fields) {
+        auto* box = new QWidget(this);
+        box->setObjectName(QStringLiteral("question-") + field.id);
+        auto* column = new QVBoxLayout(box);
+        column->setContentsMargins(0, 4, 0, 4);
+        auto* label = make::label(box, "plain");
+        label->setText(field.label + (field.required ? QStringLiteral(" *") : QString()));
+        column->addWidget(label);
+        if (!field.help.isEmpty()) {
+            auto* help = make::label(box, "caption");
+            help->setText(field.help);
+            column->addWidget(help);
+        }
+        column->addWidget(editor(field, lang));
+        layout->addWidget(box);
+        m_labels[field.id] = label;
+    }
+}
+
+QWidget* ApplyQuestions::editor(const FormSpecDTO::Field& field, Lang lang)
+{
+    const QString id = field.id;
+    if (field.type == QLatin1StringView("yesno") || field.type == QLatin1StringView("choice")) {
+        auto* combo = new QComboBox(this);
+        combo->addItem(QString(), QString());
+        if (field.type == QLatin1StringView("yesno")) {
+            combo->addItem(L10n::text(L10n::Key::yes, lang), QStringLiteral("yes"));
+            combo->addItem(L10n::text(L10n::Key::no, lang), QStringLiteral("no"));
+        } else {
+            for (const QString& option : optionsOf(field))
+                combo->addItem(option, option);
+        }
+        connect(combo, &QComboBox::currentIndexChanged, this,
+                [this, combo, id] { m_answer(id, combo->currentData().toString()); });
+        return combo;
+    }
+    if (field.type == QLatin1StringView("multi")) {
+        auto* column = new QWidget(this);
+        auto* layout = new QVBoxLayout(column);
+        layout->setContentsMargins(0, 0, 0, 0);
+        auto chosen = std::make_shared<std::vector<QString>>();
+        const auto options = optionsOf(field);
+        for (const QString& option : options) {
+            auto* tick = new QCheckBox(option, column);
+            layout->addWidget(tick);
+            connect(tick, &QCheckBox::toggled, this, [this, id, options, chosen, option](bool on) {
+                if (on)
+                    chosen->push_back(option);
+                else
+                    std::erase(*chosen, option);
+                m_answer(id, AnswerText::multi(options, *chosen));
+            });
+        }
+        return column;
+    }
+    if (field.type == QLatin1StringView("date")) {
+        auto* date = new QDateEdit(this);
+        date->setCalendarPopup(true);
+        date->setSpecialValueText(QStringLiteral(" "));
+        date->setMinimumDate(QDate(2000, 1, 1));
+        date->setDate(date->minimumDate());
+        connect(date, &QDateEdit::dateChanged, this, [this, id](QDate day) {
+            m_answer(id, AnswerText::date(QDateTime(day, QTime(12, 0), QTimeZone("Asia/Tbilisi"))));
+        });
+        return date;
+    }
+    auto* line = new QLineEdit(this);
+    if (field.type == QLatin1StringView("number"))
+        line->setInputMethodHints(Qt::ImhDigitsOnly);
+    connect(line, &QLineEdit::textChanged, this,
+            [this, id](const QString& text) { m_answer(id, text); });
+    return line;
+}
+
+void ApplyQuestions::markBad(const std::optional<QString>& id)
+{
+    for (auto& [field, label] : m_labels)
+        Theme::setRole(label, id && *id == field ? "error" : "plain");
+}
+
+} // namespace vl
