@@ -11,11 +11,6 @@ namespace {
 
 using Shape = APIClient::Shape;
 
-QString segment(const QString& text)
-{
-    return QString::fromLatin1(QUrl::toPercentEncoding(text));
-}
-
 APIClient::Request jsonWrite(const QString& path, QByteArray body)
 {
     return {.shape = Shape::jsonWrite,
@@ -127,14 +122,14 @@ QCoro::Task<Result<CandidateConversation>> ApplyingAPI::application(QString ref,
     if (!key.isEmpty())
         query[QStringLiteral("key")] = key;
     return m_api.call<CandidateConversation>(
-        privateRead(QStringLiteral("candidate/") + segment(ref), std::move(query)), owner);
+        privateRead(QStringLiteral("candidate/") + ref, std::move(query)), owner);
 }
 
 QCoro::Task<Result<WithdrawResult>> ApplyingAPI::withdraw(QString ref, QString key,
                                                           QObject* owner) const
 {
     return m_api.call<WithdrawResult>(
-        jsonWrite(QStringLiteral("candidate/") + segment(ref),
+        jsonWrite(QStringLiteral("candidate/") + ref,
                   stringBody({{QStringLiteral("key"), key},
                               {QStringLiteral("action"), QStringLiteral("withdraw")}})),
         owner);
@@ -149,7 +144,7 @@ QCoro::Task<Result<CandidateCvUpdate>> ApplyingAPI::updateCv(QString ref, QStrin
     form.textIfAny(QStringLiteral("note"), note);
     form.file(QStringLiteral("cv"), cv.filename, cv.mime, cv.data);
     return m_api.call<CandidateCvUpdate>(
-        multipart(QStringLiteral("candidate/") + segment(ref) + QStringLiteral("/cv"),
+        multipart(QStringLiteral("candidate/") + ref + QStringLiteral("/cv"),
                   std::move(form)),
         owner);
 }
@@ -160,7 +155,7 @@ QCoro::Task<Result<QByteArray>> ApplyingAPI::cvFile(QString ref, QString key, QO
     if (!key.isEmpty())
         query[QStringLiteral("key")] = key;
     const APIClient::Request request = privateRead(
-        QStringLiteral("candidate/") + segment(ref) + QStringLiteral("/cv"), std::move(query));
+        QStringLiteral("candidate/") + ref + QStringLiteral("/cv"), std::move(query));
     QNetworkReply* reply = m_api.send(request, owner);
     const HttpExchange got = co_await finish(reply);
     if (!got.answered())
@@ -190,7 +185,7 @@ QCoro::Task<Result<SeekerPostResult>> ApplyingAPI::postSeeker(SeekerPostForm for
 QCoro::Task<Result<SeekerDetail>> ApplyingAPI::seeker(QString ref, Lang lang, QObject* owner) const
 {
     return m_api.call<SeekerDetail>({.shape = Shape::plainRead,
-                                     .path = QStringLiteral("seekers/") + segment(ref),
+                                     .path = QStringLiteral("seekers/") + ref,
                                      .query = {{QStringLiteral("locale"), rawValue(lang)}}},
                                     owner);
 }
@@ -199,7 +194,7 @@ QCoro::Task<Result<SeekerContactResult>> ApplyingAPI::contactSeeker(QString ref,
                                                                     QObject* owner) const
 {
     return m_api.call<SeekerContactResult>(
-        jsonWrite(QStringLiteral("seekers/") + segment(ref) + QStringLiteral("/contact"),
+        jsonWrite(QStringLiteral("seekers/") + ref + QStringLiteral("/contact"),
                   stringBody({{QStringLiteral("message"), message}})),
         owner);
 }

@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -33,12 +32,6 @@ protected:
             return;
         run({QStringLiteral("candidate"), QStringLiteral("sign-out")});
         run({QStringLiteral("employer"), QStringLiteral("sign-out")});
-        // The employer's sign-out does not yet wait for its keyring item to go; clear it here
-        // so that the next test starts signed out.
-        QProcess::execute(QStringLiteral("secret-tool"),
-                          {QStringLiteral("clear"), QStringLiteral("server"),
-                           QStringLiteral("org.velmora.app"), QStringLiteral("user"),
-                           QStringLiteral("session")});
     }
 
     CliProcess::Run run(const QStringList& args) const { return cli.run(args); }
