@@ -9,6 +9,7 @@
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -240,9 +241,12 @@ TEST_F(ApplyingModelsTest, CvUpdatesAnswerWithTheirCodesAndLimitsWithdrawTheOffe
 TEST_F(ApplyingModelsTest, MyApplicationsMergesByRefAndAVanishedOneLeavesTheStore)
 {
     const QString sent = sendOne(listing(false), cvPath("cv.pdf"));
-    CandidateEntry gone{QStringLiteral("A-GONE"),      QStringLiteral("k"),
-                        QStringLiteral("Old"),         QStringLiteral("E"),
-                        QStringLiteral("application"), QStringLiteral("2020-01-01T00:00:00Z")};
+    CandidateEntry gone{QStringLiteral("A-GONE"),
+                        QStringLiteral("k"),
+                        QStringLiteral("Old"),
+                        QStringLiteral("E"),
+                        QStringLiteral("application"),
+                        QDateTime::fromString(QStringLiteral("2020-01-01T00:00:00Z"), Qt::ISODate)};
     wait(context->candidateStore.add(gone));
 
     MyApplicationsModel list(services());

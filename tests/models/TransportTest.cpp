@@ -118,7 +118,9 @@ TEST_F(TransportTest, AnAnswerIsBoundedInSize)
     server.script(
         Answer::endless("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n", chunk, 0));
     EXPECT_EQ(failure(get(QStringLiteral("endless"))), APIError::network());
-    EXPECT_LT(server.written, NetworkSession::answerLimit + 32 * chunk.size());
+    // Loopback and socket buffers hold some more in flight, and Qt's HTTP thread reads ahead of
+    // a busy main thread; an unbounded read would pass this many times over before the deadline.
+    EXPECT_LT(server.written, 4 * NetworkSession::answerLimit);
 
     const qint64 before = server.written;
     server.script(Answer::endless("HTTP/1.1 200 OK\r\nContent-Length: 10000000000\r\n\r\n",
@@ -153,38 +155,50 @@ TEST_F(TransportTest, AnAnswerIsBoundedInTotalTime)
 
 TEST_F(TransportTest, BrokenFramingIsNoAnswer)
 {
+    // Each answer stands at a path of its own: Qt may ask again for a read whose connection
+    // closed, and a repeated read must meet the same answer, not the next one.
+    int served = 0;
+    const auto answerWith = [&](Answer answer) {
+        const QString path = QStringLiteral("case%1").arg(++served);
+        server.serve("/api/app/v1/" + path.toLatin1(), std::move(answer));
+        return get(path);
+    };
     const QList<QByteArray> broken{
         "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\n" + done + "\r\n0\r\n\r\n",
         "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n" + done,
         "HTTP/1.1 404 Not Found\r\nContent-Length: 100\r\n\r\n" + done,
     };
-    for (const QByteArray& answer : broken) {
-        server.script(Answer::closing(answer));
-        EXPECT_EQ(failure(get(QStringLiteral("broken"))), APIError::network()) << answer.data();
-    }
+    for (const QByteArray& answer : broken)
+        EXPECT_EQ(failure(answerWith(Answer::closing(answer))), APIError::network())
+            << answer.data();
 
     // A compressed answer's length counts the bytes on the wire.
     const QByteArray deflated = qCompress(done).mid(4);
-    server.script(Answer::with(okAnswer(deflated, "Content-Encoding: deflate\r\n")));
-    EXPECT_TRUE(get(QStringLiteral("deflated")));
+    EXPECT_TRUE(answerWith(Answer::with(okAnswer(deflated, "Content-Encoding: deflate\r\n"))));
 
     // Whole answers with an error status are still answers.
-    server.script(Answer::with(
-        "HTTP/1.1 500 Oops\r\nContent-Length: 29\r\n\r\n{\"ok\":false,\"error\":\"rate\"}  "));
-    EXPECT_EQ(failure(get(QStringLiteral("rate"))), APIError::server(QStringLiteral("rate")));
-    server.script(Answer::with("HTTP/1.1 404 Not Found\r\nContent-Length: 6\r\n\r\n<html>"));
-    EXPECT_EQ(failure(get(QStringLiteral("html"))), APIError::http(404));
-    server.script(Answer::with("HTTP/1.1 401 No\r\nContent-Length: 6\r\n\r\n<html>"));
-    EXPECT_EQ(failure(get(QStringLiteral("html"))), APIError::http(401));
+    EXPECT_EQ(
+        failure(answerWith(Answer::with(
+            "HTTP/1.1 500 Oops\r\nContent-Length: 29\r\n\r\n{\"ok\":false,\"error\":\"rate\"}  "))),
+        APIError::server(QStringLiteral("rate")));
+    EXPECT_EQ(failure(answerWith(
+                  Answer::with("HTTP/1.1 404 Not Found\r\nContent-Length: 6\r\n\r\n<html>"))),
+              APIError::http(404));
+    EXPECT_EQ(
+        failure(answerWith(Answer::with("HTTP/1.1 401 No\r\nContent-Length: 6\r\n\r\n<html>"))),
+        APIError::http(401));
 }
 
 TEST_F(TransportTest, RedirectsCarryNoBodyOrCredentialToAnotherOrigin)
 {
     HostileServer elsewhere;
     elsewhere.serve("/x", Answer::with(okAnswer(done)));
+    // Each redirect closes its connection: what is under test is where Qt goes next, not a
+    // read that Qt sends again when a reused connection turns out closed.
     const auto moved = [](const char* status, const QUrl& to) {
-        return Answer::with(QByteArray("HTTP/1.1 ") + status + " Moved\r\nLocation: " +
-                            to.toEncoded() + "\r\nContent-Length: 0\r\n\r\n");
+        return Answer::closing(QByteArray("HTTP/1.1 ") + status +
+                               " Moved\r\nLocation: " + to.toEncoded() +
+                               "\r\nConnection: close\r\nContent-Length: 0\r\n\r\n");
     };
     const QUrl away = elsewhere.url(QStringLiteral("/x"));
     const QUrl home = server.url(QStringLiteral("/api/app/v1/there"));
