@@ -1,8 +1,8 @@
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
 #include "app/shell/InstanceChannel.h"
-#include "app/shell/MainWindow.h"
 #include "app/shell/WebLinkHandler.h"
+#include "app/window/MainWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

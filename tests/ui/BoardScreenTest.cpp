@@ -5,7 +5,7 @@
 #include "app/discovery/SavedScreen.h"
 #include "app/kit/SidebarDelegate.h"
 #include "app/shell/InstanceChannel.h"
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"

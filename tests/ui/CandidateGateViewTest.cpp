@@ -1,7 +1,7 @@
 #include "app/identity/CandidateGateView.h"
 
-#include "app/shell/AccountScreen.h"
-#include "app/shell/MainWindow.h"
+#include "app/window/AccountScreen.h"
+#include "app/window/MainWindow.h"
 #include "core/identity/TotpKey.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"

@@ -1,6 +1,6 @@
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 
-#include "app/shell/UpdateRequiredScreen.h"
+#include "app/window/UpdateRequiredScreen.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"

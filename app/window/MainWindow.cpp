@@ -1,17 +1,17 @@
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 
 #include "app/discovery/BoardScreen.h"
 #include "app/discovery/SavedScreen.h"
 #include "app/hiring/LoginSheet.h"
-#include "app/kit/SidebarDelegate.h"
 #include "app/identity/CandidateGateView.h"
+#include "app/kit/SidebarDelegate.h"
 #include "app/kit/Theme.h"
-#include "app/shell/AccountMenu.h"
-#include "app/shell/AccountScreen.h"
 #include "app/shell/AppContext.h"
 #include "app/shell/BuildNumber.h"
-#include "app/shell/UpdateBanner.h"
-#include "app/shell/UpdateRequiredScreen.h"
+#include "app/window/AccountMenu.h"
+#include "app/window/AccountScreen.h"
+#include "app/window/UpdateBanner.h"
+#include "app/window/UpdateRequiredScreen.h"
 #include "core/l10n/L10n.h"
 
 #include <QActionGroup>

@@ -1,4 +1,4 @@
-#include "app/shell/AccountMenu.h"
+#include "app/window/AccountMenu.h"
 
 #include "app/kit/Theme.h"
 #include "app/shell/AccountMenuModel.h"

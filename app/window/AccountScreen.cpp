@@ -1,4 +1,4 @@
-#include "app/shell/AccountScreen.h"
+#include "app/window/AccountScreen.h"
 
 #include "app/hiring/ProfileEditScreen.h"
 #include "app/kit/ConfirmRow.h"
