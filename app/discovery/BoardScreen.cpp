@@ -30,6 +30,10 @@ namespace {
 
 // Rows from the end at which the next page is asked for.
 constexpr int loadMoreMargin = 12;
+// Below this width the list and the open listing no longer fit side by side.
+constexpr int narrowWidth = 860;
+// Below this height the head would take more than half of the column.
+constexpr int shortHeight = 640;
 
 struct ChipSpec {
     const char* name;
@@ -104,21 +108,41 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
     , m_ledger(m_model)
 {
     setObjectName(QStringLiteral("vl.board"));
+    // The first page is asked for before the widgets are built, so the answer travels meanwhile.
+    loadFirst(false);
     auto* split = new QSplitter(Qt::Horizontal, this);
     split->setObjectName(QStringLiteral("vl.board.split"));
     split->setChildrenCollapsible(false);
     split->setHandleWidth(1);
 
-    auto* column = new QWidget(split);
-    auto* columnLayout = new QVBoxLayout(column);
+    m_column = new QWidget(split);
+    auto* columnLayout = new QVBoxLayout(m_column);
     columnLayout->setContentsMargins(0, 0, 0, 0);
     columnLayout->setSpacing(0);
     columnLayout->addWidget(buildHead());
     columnLayout->addWidget(buildBody(), 1);
 
-    m_detail = new JobDetailView(context, split);
-    split->addWidget(column);
-    split->addWidget(m_detail);
+    // On a narrow window the listing takes the list's place, with a way back above it.
+    m_detailSide = new QWidget(split);
+    m_back = new QPushButton(m_detailSide);
+    m_back->setObjectName(QStringLiteral("vl.board.back"));
+    Theme::setRole(m_back, "link");
+    connect(m_back, &QPushButton::clicked, this, [this] {
+        m_detailInFront = false;
+        arrangePanes();
+        m_list->setFocus(Qt::OtherFocusReason);
+    });
+    m_detail = new JobDetailView(context, m_detailSide);
+    auto* sideLayout = new QVBoxLayout(m_detailSide);
+    sideLayout->setContentsMargins(0, 0, 0, 0);
+    sideLayout->setSpacing(0);
+    auto* backRow = new QHBoxLayout;
+    backRow->setContentsMargins(18, 10, 18, 0);
+    backRow->addWidget(m_back, 0, Qt::AlignLeft);
+    sideLayout->addLayout(backRow);
+    sideLayout->addWidget(m_detail, 1);
+    split->addWidget(m_column);
+    split->addWidget(m_detailSide);
     split->setStretchFactor(0, 3);
     split->setStretchFactor(1, 2);
     split->setSizes({560, 420});
@@ -146,7 +170,14 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
         m_search->setFocus(Qt::ShortcutFocusReason);
         m_search->selectAll();
     });
-    connect(&context.router, &Router::selectedJobChanged, this, &BoardScreen::followSelection);
+    connect(&context.router, &Router::selectedJobChanged, this, [this] {
+        followSelection();
+        if (m_context.router.selectedJob())
+            bringDetailForward();
+    });
+    // Choosing the row already open brings it back too.
+    connect(m_list, &QListView::activated, this, &BoardScreen::bringDetailForward);
+    connect(m_list, &QListView::clicked, this, &BoardScreen::bringDetailForward);
     connect(&context.auth, &AuthManager::sessionChanged, this, &BoardScreen::refresh);
     connect(&context.taxonomy, &Taxonomy::changed, this, [this] {
         refreshRails();
@@ -154,16 +185,15 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
     });
 
     retext();
-    if (m_model.items().empty())
-        loadFirst(false);
+    arrangePanes();
 }
 
 QWidget* BoardScreen::buildHead()
 {
     auto* head = new QWidget(this);
     auto* layout = new QVBoxLayout(head);
-    layout->setContentsMargins(18, 16, 18, 8);
-    layout->setSpacing(10);
+    layout->setContentsMargins(18, 12, 18, 6);
+    layout->setSpacing(8);
 
     auto* searchRow = new QHBoxLayout;
     searchRow->setSpacing(8);
@@ -325,6 +355,7 @@ void BoardScreen::retext()
     m_categoriesTitle->setText(L10n::text(Key::bdBrowse, lang));
     m_citiesTitle->setText(L10n::text(Key::bdCities, lang));
     m_empty->setText(L10n::text(Key::boardEmpty, lang));
+    m_back->setText(QStringLiteral("‹ ") + L10n::text(Key::allListings, lang));
     m_errorTitle->setText(L10n::text(Key::errLoadTitle, lang));
     m_errorBody->setText(L10n::text(Key::errLoadBody, lang));
     m_retry->setText(L10n::text(Key::retry, lang));
@@ -430,8 +461,8 @@ void BoardScreen::refreshRails()
 void BoardScreen::refreshFresh()
 {
     const auto& summary = m_model.summary();
-    const bool show = m_model.activeFilters() == 0 && m_model.query().isEmpty() && summary &&
-                      !summary->fresh.empty();
+    const bool show = !m_short && m_model.activeFilters() == 0 && m_model.query().isEmpty() &&
+                      summary && !summary->fresh.empty();
     m_fresh->setVisible(show);
     if (!show)
         return;
@@ -480,6 +511,37 @@ void BoardScreen::maybeLoadMore()
     const int lastShown = last.isValid() ? last.row() : rows - 1;
     if (lastShown >= rows - loadMoreMargin)
         m_model.loadMore(m_context.appState.lang());
+}
+
+void BoardScreen::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // On a short window the fresh strip gives its room to the list.
+    if (const bool isShort = height() < shortHeight; isShort != m_short) {
+        m_short = isShort;
+        refreshFresh();
+    }
+    const bool narrow = width() < narrowWidth;
+    if (narrow == m_narrow)
+        return;
+    m_narrow = narrow;
+    arrangePanes();
+}
+
+void BoardScreen::bringDetailForward()
+{
+    if (!m_narrow || m_detailInFront)
+        return;
+    m_detailInFront = true;
+    arrangePanes();
+}
+
+void BoardScreen::arrangePanes()
+{
+    const bool front = m_narrow && m_detailInFront;
+    m_back->setVisible(m_narrow);
+    m_column->setVisible(!front);
+    m_detailSide->setVisible(!m_narrow || front);
 }
 
 void BoardScreen::followSelection()

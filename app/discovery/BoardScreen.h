@@ -41,6 +41,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* buildHead();
@@ -53,6 +54,8 @@ private:
     void reload();
     void maybeLoadMore();
     void followSelection();
+    void arrangePanes();
+    void bringDetailForward();
     void openFilters();
     void openPostGate();
 
@@ -82,10 +85,16 @@ private:
     QLabel* m_errorTitle = nullptr;
     QLabel* m_errorBody = nullptr;
     QPushButton* m_retry = nullptr;
+    QWidget* m_column = nullptr;
+    QWidget* m_detailSide = nullptr;
+    QPushButton* m_back = nullptr;
     JobDetailView* m_detail = nullptr;
     QPointer<FilterSheet> m_filterSheet;
     bool m_drawn = false;
     bool m_selecting = false;
+    bool m_narrow = false;
+    bool m_short = false;
+    bool m_detailInFront = false;
 };
 
 } // namespace vl

@@ -122,10 +122,9 @@ void AccountMenu::retext()
     const auto signOut = m_model.employerSignOut();
     m_signOut->setText(signOut ? L10n::text(*signOut, lang) : QString());
     m_signOut->setVisible(signOut.has_value());
-    m_seekerSignIn->setText(QStringLiteral("<a href=\"velmora:seeker\" style=\"color:#1e7f74; "
-                                           "text-decoration:none\">") +
-                            L10n::text(L10n::Key::fySignInSeeker, lang).toHtmlEscaped() +
-                            QStringLiteral("</a>"));
+    m_seekerSignIn->setText(
+        QStringLiteral("<a href=\"velmora:seeker\" style=\"text-decoration:none\">") +
+        L10n::text(L10n::Key::fySignInSeeker, lang).toHtmlEscaped() + QStringLiteral("</a>"));
     m_seekerSignIn->setVisible(m_model.offersSeekerSignIn());
     m_more->setToolTip(L10n::text(L10n::Key::macYourAccount, lang));
     m_more->setVisible(!signedOut);

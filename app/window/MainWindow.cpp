@@ -70,8 +70,7 @@ MainWindow::MainWindow(AppContext& context, QWidget* parent)
     connect(&m_context.inbox, &InboxState::unreadChanged, this, &MainWindow::rebuildSections);
     connect(&m_context.nav, &MacNav::sectionChanged, this, &MainWindow::showSection);
     connect(&m_context.nav, &MacNav::sidebarShownChanged, this, [this] {
-        if (m_sidebar)
-            m_sidebar->setVisible(m_context.nav.sidebarShown());
+        showSidebar();
         retext();
     });
     connect(&m_context.router, &Router::readingJobChanged, this, &MainWindow::refreshListingMenu);
@@ -132,8 +131,6 @@ QWidget* MainWindow::buildShell()
     connect(m_board, &BoardScreen::signInRequested, this, &MainWindow::openSignIn);
     connect(m_board, &BoardScreen::firstPageDrawn, this, &MainWindow::firstPageDrawn);
     pages->addWidget(m_board);
-    m_saved = new SavedScreen(m_context, pages);
-    pages->addWidget(m_saved);
     // Sections whose screens come later show their name.
     auto* placeholderPage = new QWidget(pages);
     m_placeholder = new QLabel(placeholderPage);
@@ -156,6 +153,20 @@ QWidget* MainWindow::buildShell()
     layout->addWidget(sidebar);
     layout->addWidget(content, 1);
     return shell;
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    showSidebar();
+}
+
+void MainWindow::showSidebar()
+{
+    // Below this width the sidebar gives its room to the content, whatever the View menu says.
+    constexpr int sidebarWidth = 960;
+    if (m_sidebar)
+        m_sidebar->setVisible(m_context.nav.sidebarShown() && width() >= sidebarWidth);
 }
 
 void MainWindow::buildMenus()
@@ -347,10 +358,15 @@ void MainWindow::showSection()
     if (section == MacSection::vacancies) {
         m_pages->setCurrentWidget(m_board);
     } else if (section == MacSection::saved) {
+        // Built when first visited: most launches never open it.
+        if (!m_saved) {
+            m_saved = new SavedScreen(m_context, m_pages);
+            m_pages->addWidget(m_saved);
+        }
         m_pages->setCurrentWidget(m_saved);
     } else {
         m_placeholder->setText(L10n::text(titleKey(section), m_context.appState.lang()));
-        m_pages->setCurrentIndex(m_pages->count() - 1);
+        m_pages->setCurrentWidget(m_placeholder->parentWidget());
     }
     refreshListingMenu();
 }

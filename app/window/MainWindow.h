@@ -41,7 +41,11 @@ Q_SIGNALS:
     // The board's first rows have been painted.
     void firstPageDrawn();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void showSidebar();
     void buildMenus();
     QWidget* buildShell();
     void retext();
