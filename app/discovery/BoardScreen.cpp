@@ -8,11 +8,13 @@
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -34,6 +36,11 @@ constexpr int loadMoreMargin = 12;
 constexpr int narrowWidth = 860;
 // Below this height the head would take more than half of the column.
 constexpr int shortHeight = 640;
+// The pages of the board's body.
+constexpr int listPage = 0;
+constexpr int emptyPage = 1;
+constexpr int errorPage = 2;
+constexpr int loadingPage = 3;
 
 struct ChipSpec {
     const char* name;
@@ -284,7 +291,33 @@ QWidget* BoardScreen::buildHead()
 
 QWidget* BoardScreen::buildBody()
 {
-    m_states = new QStackedWidget(this);
+    auto* body = new QWidget(this);
+    // A reload keeps the rows and shows only this thin bar; a failed one keeps them too, under
+    // one line that says so with a way to try again.
+    m_reloading = new QProgressBar(body);
+    m_reloading->setObjectName(QStringLiteral("vl.board.reloading"));
+    m_reloading->setRange(0, 0);
+    m_reloading->setTextVisible(false);
+    Theme::setRole(m_reloading, "busy");
+    QSizePolicy keepRoom = m_reloading->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true);
+    m_reloading->setSizePolicy(keepRoom);
+    m_failLine = new QWidget(body);
+    m_failLine->setObjectName(QStringLiteral("vl.board.failLine"));
+    m_failText = new QLabel(m_failLine);
+    m_failText->setObjectName(QStringLiteral("vl.board.failText"));
+    Theme::setRole(m_failText, "caption");
+    m_failRetry = new QPushButton(m_failLine);
+    m_failRetry->setObjectName(QStringLiteral("vl.board.failRetry"));
+    Theme::setRole(m_failRetry, "link");
+    connect(m_failRetry, &QPushButton::clicked, this, &BoardScreen::retry);
+    auto* failLayout = new QHBoxLayout(m_failLine);
+    failLayout->setContentsMargins(18, 4, 18, 4);
+    failLayout->addWidget(m_failText, 1);
+    failLayout->addWidget(m_failRetry);
+    m_failLine->hide();
+
+    m_states = new QStackedWidget(body);
     m_states->setObjectName(QStringLiteral("vl.board.states"));
 
     m_list = new QListView(m_states);
@@ -332,14 +365,35 @@ QWidget* BoardScreen::buildBody()
     m_retry = new QPushButton(error);
     m_retry->setObjectName(QStringLiteral("vl.board.retry"));
     Theme::setRole(m_retry, "primary");
-    connect(m_retry, &QPushButton::clicked, this, [this] { loadFirst(false); });
+    connect(m_retry, &QPushButton::clicked, this, &BoardScreen::retry);
     errorLayout->addWidget(m_errorTitle, 0, Qt::AlignHCenter);
     errorLayout->addWidget(m_errorBody, 0, Qt::AlignHCenter);
     errorLayout->addSpacing(8);
     errorLayout->addWidget(m_retry, 0, Qt::AlignHCenter);
     errorLayout->addStretch(1);
     m_states->addWidget(error);
-    return m_states;
+
+    // The first load shows this in place of the rows, and no count until the answer comes.
+    auto* loadingPage = new QWidget(m_states);
+    loadingPage->setObjectName(QStringLiteral("vl.board.loading"));
+    auto* loadingBar = new QProgressBar(loadingPage);
+    loadingBar->setRange(0, 0);
+    loadingBar->setTextVisible(false);
+    loadingBar->setFixedWidth(160);
+    Theme::setRole(loadingBar, "busy");
+    auto* loadingLayout = new QVBoxLayout(loadingPage);
+    loadingLayout->addStretch(1);
+    loadingLayout->addWidget(loadingBar, 0, Qt::AlignHCenter);
+    loadingLayout->addStretch(2);
+    m_states->addWidget(loadingPage);
+
+    auto* layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_reloading);
+    layout->addWidget(m_failLine);
+    layout->addWidget(m_states, 1);
+    return body;
 }
 
 void BoardScreen::retext()
@@ -359,6 +413,8 @@ void BoardScreen::retext()
     m_errorTitle->setText(L10n::text(Key::errLoadTitle, lang));
     m_errorBody->setText(L10n::text(Key::errLoadBody, lang));
     m_retry->setText(L10n::text(Key::retry, lang));
+    m_failText->setText(L10n::text(Key::errLoadTitle, lang));
+    m_failRetry->setText(L10n::text(Key::retry, lang));
     m_post->setToolTip(L10n::text(Key::macNewVacancy, lang));
     refresh();
     m_list->viewport()->update();
@@ -381,16 +437,48 @@ void BoardScreen::refresh()
         headline =
             L10n::text(Key::bdFound, lang, m_model.total()) + QStringLiteral("  ·  ") + headline;
     m_headline->setText(headline);
+    m_headline->setVisible(m_model.loadedQuery().has_value());
     m_nudge->setVisible(!m_context.auth.hiring());
-
-    if (m_model.failed() && m_model.items().empty())
-        m_states->setCurrentIndex(2);
-    else if (!m_model.loading() && m_model.items().empty() && m_model.loadedQuery())
-        m_states->setCurrentIndex(1);
-    else
-        m_states->setCurrentIndex(0);
+    showLoadState();
     refreshRails();
     refreshFresh();
+}
+
+void BoardScreen::showLoadState()
+{
+    const bool loading = m_model.loading();
+    const bool failed = m_model.failed();
+    const bool empty = m_model.items().empty();
+    if (failed && empty)
+        m_states->setCurrentIndex(errorPage);
+    else if (loading && empty)
+        m_states->setCurrentIndex(loadingPage);
+    else if (!loading && empty && m_model.loadedQuery())
+        m_states->setCurrentIndex(emptyPage);
+    else
+        m_states->setCurrentIndex(listPage);
+    m_reloading->setVisible(loading && !empty);
+    m_failLine->setVisible(failed && !empty && !loading);
+    if (m_wasLoading && !loading) {
+        // A listing that failed beside a list that now loads is asked for again.
+        if (!failed && m_detail->model().failed())
+            m_detail->reload();
+        QAccessibleEvent done(failed ? static_cast<QWidget*>(m_failText) : m_headline,
+                              failed ? QAccessible::Alert : QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&done);
+    }
+    m_wasLoading = loading;
+}
+
+void BoardScreen::retry()
+{
+    // A failed next page is asked for again; a failed first page reloads the list.
+    if (m_model.items().empty())
+        loadFirst(false);
+    else
+        m_model.load(m_context.appState.lang(), false, false);
+    if (m_context.router.selectedJob())
+        m_detail->reload();
 }
 
 void BoardScreen::refreshRails()

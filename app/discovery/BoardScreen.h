@@ -10,6 +10,7 @@
 class QLabel;
 class QLineEdit;
 class QListView;
+class QProgressBar;
 class QPushButton;
 class QScrollArea;
 class QHBoxLayout;
@@ -48,6 +49,8 @@ private:
     QWidget* buildBody();
     void retext();
     void refresh();
+    void showLoadState();
+    void retry();
     void refreshRails();
     void refreshFresh();
     void loadFirst(bool fresh);
@@ -79,6 +82,10 @@ private:
     QHBoxLayout* m_categoriesRow = nullptr;
     QLabel* m_citiesTitle = nullptr;
     QHBoxLayout* m_citiesRow = nullptr;
+    QProgressBar* m_reloading = nullptr;
+    QWidget* m_failLine = nullptr;
+    QLabel* m_failText = nullptr;
+    QPushButton* m_failRetry = nullptr;
     QStackedWidget* m_states = nullptr;
     QListView* m_list = nullptr;
     QLabel* m_empty = nullptr;
@@ -92,6 +99,7 @@ private:
     QPointer<FilterSheet> m_filterSheet;
     bool m_drawn = false;
     bool m_selecting = false;
+    bool m_wasLoading = false;
     bool m_narrow = false;
     bool m_short = false;
     bool m_detailInFront = false;

@@ -4,10 +4,12 @@
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
 
+#include <QAccessible>
 #include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -157,9 +159,20 @@ JobDetailView::JobDetailView(AppContext& context, QWidget* parent)
     scroll->setWidget(page);
     m_states->addWidget(scroll);
 
+    // A listing on its way shows this quiet bar, never the hint to pick one.
+    m_busy = new QProgressBar(this);
+    m_busy->setObjectName(QStringLiteral("vl.detail.busy"));
+    m_busy->setRange(0, 0);
+    m_busy->setTextVisible(false);
+    Theme::setRole(m_busy, "busy");
+    QSizePolicy keepRoom = m_busy->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true);
+    m_busy->setSizePolicy(keepRoom);
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(m_states);
+    outer->setSpacing(0);
+    outer->addWidget(m_busy);
+    outer->addWidget(m_states, 1);
 
     connect(&m_model, &JobDetailModel::changed, this, &JobDetailView::show);
     connect(&context.router, &Router::selectedJobChanged, this, &JobDetailView::reload);
@@ -204,14 +217,18 @@ void JobDetailView::showStar()
 void JobDetailView::show()
 {
     const auto& job = m_model.detail();
+    m_busy->setVisible(m_model.loading());
     if (m_model.failed()) {
         m_states->setCurrentIndex(1);
+        QAccessibleEvent alert(m_errorTitle, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
         return;
     }
     if (!job) {
-        // While a listing loads the pane stays empty rather than flashing the hint.
-        m_pick->setVisible(!m_model.loading());
+        // While a listing loads the pane stays empty rather than flashing the hint; the stack
+        // shows the page it turns to, so the hint is hidden after the turn.
         m_states->setCurrentIndex(0);
+        m_pick->setVisible(!m_model.loading());
         return;
     }
     m_states->setCurrentIndex(2);

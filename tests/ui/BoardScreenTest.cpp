@@ -392,3 +392,88 @@ TEST_F(BoardScreenTest, ALinkFromASecondLaunchOpensTheListingHere)
     EXPECT_FALSE(
         InstanceChannel(QStringLiteral("http://elsewhere.example")).handOver(QStringLiteral("x")));
 }
+
+TEST_F(BoardScreenTest, ReloadsShowTheirWorkAndRetryBringsBackListAndListing)
+{
+    auto* states = part<QStackedWidget>(window, QStringLiteral("vl.board.states"));
+    auto* detailStates = part(window, QStringLiteral("vl.detail"))->findChild<QStackedWidget*>();
+    auto* failLine = part(window, QStringLiteral("vl.board.failLine"));
+    auto* reloading = part(window, QStringLiteral("vl.board.reloading"));
+    action("nextListing")->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return context->router.readingJob().has_value(); }, 5000));
+    const QString ref = *context->router.selectedJob();
+    const QString jobsPath = QStringLiteral("/api/app/v1/jobs");
+    const QString detailPath = jobsPath + QLatin1Char('/') + ref;
+    const auto fault = [&](const QString& path, const char* rest) {
+        sandbox.devPost(QStringLiteral("/dev/fault"),
+                        QStringLiteral(R"({"method":"GET","path":"%1",%2})")
+                            .arg(path, QString::fromLatin1(rest))
+                            .toUtf8());
+    };
+
+    // A slow reload keeps the rows with a quiet bar; the listing on its way never shows the hint.
+    fault(jobsPath, R"("mode":"slow","delay":0.6)");
+    fault(detailPath, R"("mode":"slow","delay":0.6)");
+    action("refresh")->trigger();
+    window.board()->findChild<JobDetailView*>()->reload();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().loading(); }, 2000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.list"));
+    EXPECT_TRUE(reloading->isVisible());
+    EXPECT_FALSE(label("vl.detail.pick")->isVisible());
+    EXPECT_TRUE(part(window, QStringLiteral("vl.detail.busy"))->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loaded(); }, 5000));
+    EXPECT_FALSE(reloading->isVisible());
+
+    // Both fail: the board shows its error, and so does the pane.
+    fault(jobsPath, R"("mode":"status","status":500)");
+    fault(detailPath, R"("mode":"status","status":500)");
+    action("refresh")->trigger();
+    window.board()->findChild<JobDetailView*>()->reload();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().failed() && !board().loading(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return detailStates->currentWidget()->objectName() == "vl.detail.error"; }, 5000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.error"));
+
+    // Retry asks for both again.
+    fault(jobsPath, R"("mode":"none")");
+    fault(detailPath, R"("mode":"none")");
+    part<QPushButton>(window, QStringLiteral("vl.board.retry"))->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loaded() && !board().failed(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return detailStates->currentWidget()->objectName() != "vl.detail.error"; }, 5000));
+    EXPECT_EQ(label("vl.detail.title")->text(), context->router.readingJob()->title);
+
+    // A failed next page keeps the rows under one line with Retry, which asks for that page.
+    fault(jobsPath, R"("mode":"status","status":500)");
+    const size_t firstPage = board().items().size();
+    list()->scrollToBottom();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().failed() && !board().loading(); }, 5000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.list"));
+    EXPECT_EQ(board().items().size(), firstPage);
+    EXPECT_TRUE(failLine->isVisible());
+    saveScreenshot(&window, QStringLiteral("board-next-page-failed-en"));
+    fault(jobsPath, R"("mode":"none")");
+    part<QPushButton>(window, QStringLiteral("vl.board.failRetry"))->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().items().size() > firstPage; }, 5000));
+    EXPECT_EQ(board().page(), 2);
+    EXPECT_FALSE(failLine->isVisible());
+}
+
+TEST_F(BoardScreenTest, AFirstLoadShowsItsWorkAndNoCountBeforeTheAnswer)
+{
+    sandbox.devPost(QStringLiteral("/dev/fault"),
+                    R"({"method":"GET","path":"/api/app/v1/jobs","mode":"slow","delay":0.6})");
+    MainWindow second(*context);
+    second.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&second));
+    auto* states = part<QStackedWidget>(second, QStringLiteral("vl.board.states"));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.loading"));
+    EXPECT_FALSE(part(second, QStringLiteral("vl.board.headline"))->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            return !second.board()->model().items().empty() && !second.board()->model().loading();
+        },
+        5000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.list"));
+    EXPECT_TRUE(part(second, QStringLiteral("vl.board.headline"))->isVisible());
+}
