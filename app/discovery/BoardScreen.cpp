@@ -7,10 +7,12 @@
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
+#include "core/navigation/MacSection.h"
 
 #include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -86,6 +88,8 @@ QScrollArea* railArea(QWidget* parent, QHBoxLayout*& row)
 {
     auto* area = new QScrollArea(parent);
     Theme::setRole(area, "rail");
+    // The chips take the focus, one by one; the rail itself is only their frame.
+    area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -207,6 +211,7 @@ QWidget* BoardScreen::buildHead()
     m_search = new QLineEdit(head);
     m_search->setObjectName(QStringLiteral("vl.board.search"));
     m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_model.setQuery(text, m_context.appState.lang()); });
     m_filters = new QPushButton(head);
@@ -224,6 +229,7 @@ QWidget* BoardScreen::buildHead()
 
     QHBoxLayout* chipRow = nullptr;
     QScrollArea* chipArea = railArea(head, chipRow);
+    m_chipArea = chipArea;
     chipArea->setObjectName(QStringLiteral("vl.board.chips"));
     for (size_t i = 0; i < std::size(chipSpecs); ++i) {
         QToolButton* chip =
@@ -327,6 +333,8 @@ QWidget* BoardScreen::buildBody()
     m_delegate = new LedgerDelegate(m_list);
     m_delegate->setCityLabel(
         [this](const QString& key) { return m_context.taxonomy.cityLabel(key, m_ledger.lang()); });
+    m_ledger.setCityLabel(
+        [this](const QString& key) { return m_context.taxonomy.cityLabel(key, m_ledger.lang()); });
     m_list->setItemDelegate(m_delegate);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -402,6 +410,8 @@ void BoardScreen::retext()
     m_ledger.setLang(lang);
     m_delegate->setLang(lang);
     m_search->setPlaceholderText(L10n::text(Key::search, lang));
+    m_search->setAccessibleName(L10n::text(Key::search, lang));
+    m_list->setAccessibleName(L10n::text(titleKey(MacSection::vacancies), lang));
     for (size_t i = 0; i < m_chips.size(); ++i)
         m_chips[i]->setText(L10n::text(chipSpecs[i].key, lang));
     m_nudge->setText(L10n::text(Key::boardSignInNudge, lang));
@@ -416,6 +426,7 @@ void BoardScreen::retext()
     m_failText->setText(L10n::text(Key::errLoadTitle, lang));
     m_failRetry->setText(L10n::text(Key::retry, lang));
     m_post->setToolTip(L10n::text(Key::macNewVacancy, lang));
+    m_post->setAccessibleName(L10n::text(Key::macNewVacancy, lang));
     refresh();
     m_list->viewport()->update();
 }
@@ -442,6 +453,7 @@ void BoardScreen::refresh()
     showLoadState();
     refreshRails();
     refreshFresh();
+    orderTabs();
 }
 
 void BoardScreen::showLoadState()
@@ -540,10 +552,38 @@ void BoardScreen::refreshRails()
             fitHeight(rail.city ? m_citiesArea : m_categoriesArea);
         }
         for (int i = 0; i < rail.row->count(); ++i) {
-            if (auto* chip = qobject_cast<QToolButton*>(rail.row->itemAt(i)->widget()))
-                chip->setChecked(*rail.chosen == chip->property("vlKey").toString());
+            auto* chip = qobject_cast<QToolButton*>(rail.row->itemAt(i)->widget());
+            if (!chip)
+                continue;
+            chip->setChecked(*rail.chosen == chip->property("vlKey").toString());
+            if (chip->isChecked())
+                (rail.city ? m_citiesArea : m_categoriesArea)->ensureWidgetVisible(chip);
         }
     }
+    orderTabs();
+}
+
+// Tab follows the eye: search, quick picks, filters, the fresh strip, the rails, the list, the
+// open listing. Rails fill in later, so the order is set again whenever they change.
+void BoardScreen::orderTabs()
+{
+    QWidgetList chain{m_search};
+    for (QToolButton* chip : m_chips)
+        chain << chip;
+    chain << m_filters << m_post;
+    for (QHBoxLayout* row : {m_freshRow, m_categoriesRow, m_citiesRow}) {
+        for (int i = 0; i < row->count(); ++i) {
+            if (QWidget* widget = row->itemAt(i)->widget())
+                chain << widget;
+        }
+    }
+    chain << m_list;
+    for (QWidget* widget : m_detailSide->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            chain << widget;
+    }
+    for (qsizetype i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
 }
 
 void BoardScreen::refreshFresh()
@@ -673,7 +713,12 @@ void BoardScreen::openPostGate()
 
 bool BoardScreen::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!m_drawn && watched == m_list->viewport() && event->type() == QEvent::Paint &&
+    if (watched == m_search && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && !m_search->text().isEmpty()) {
+        m_search->clear();
+        return true;
+    }
+    if (!m_drawn && m_list && watched == m_list->viewport() && event->type() == QEvent::Paint &&
         m_ledger.rowCount() > 0) {
         m_drawn = true;
         QTimer::singleShot(0, this, &BoardScreen::firstPageDrawn);

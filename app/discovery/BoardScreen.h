@@ -58,6 +58,7 @@ private:
     void maybeLoadMore();
     void followSelection();
     void arrangePanes();
+    void orderTabs();
     void bringDetailForward();
     void openFilters();
     void openPostGate();
@@ -76,6 +77,7 @@ private:
     QLabel* m_freshTitle = nullptr;
     QHBoxLayout* m_freshRow = nullptr;
     QLabel* m_categoriesTitle = nullptr;
+    QScrollArea* m_chipArea = nullptr;
     QScrollArea* m_freshArea = nullptr;
     QScrollArea* m_categoriesArea = nullptr;
     QScrollArea* m_citiesArea = nullptr;

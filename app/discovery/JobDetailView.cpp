@@ -73,6 +73,8 @@ JobDetailView::JobDetailView(AppContext& context, QWidget* parent)
     m_states->addWidget(error);
 
     auto* scroll = new QScrollArea(m_states);
+    // The listing's own controls take the focus; its frame only scrolls.
+    scroll->setFocusPolicy(Qt::NoFocus);
     Theme::setRole(scroll, "plain");
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);

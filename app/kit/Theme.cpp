@@ -18,6 +18,7 @@ using palette::Colors;
 const char* const styleSheet = R"(
 QWidget { color: @ink@; }
 QMainWindow, QDialog { background: @paper@; }
+QToolButton:focus { border: 1px solid @accent@; border-radius: 6px; }
 QWidget[vlRole="sidebar"] { background: @side@; border-right: 1px solid @border@; }
 QWidget[vlRole="account"] { border-top: 1px solid @border@; }
 QWidget[vlRole="card"] { background: @paper@; border: 1px solid @border@; border-radius: 14px; }
@@ -83,6 +84,12 @@ QToolButton[vlRole="chip"] {
     border: 1px solid @field@; border-radius: 13px; padding: 4px 12px; background: @paper@;
 }
 QToolButton[vlRole="chip"]:hover { background: @side@; }
+QToolButton[vlRole="chip"]:focus, QPushButton:focus, QPushButton[vlRole="ticket"]:focus {
+    border-color: @accent@;
+}
+QPushButton[vlRole="primary"]:focus { border-color: @accentDeep@; }
+QPushButton[vlRole="link"]:focus, QPushButton[vlRole="quiet"]:focus { text-decoration: underline; }
+QToolButton[vlRole="chip"]:checked:focus { border-color: @accentDeep@; }
 QToolButton[vlRole="chip"]:checked {
     background: @accent@; border-color: @accent@; color: @onAccent@; font-weight: 600;
 }

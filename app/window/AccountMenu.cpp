@@ -127,6 +127,7 @@ void AccountMenu::retext()
         L10n::text(L10n::Key::fySignInSeeker, lang).toHtmlEscaped() + QStringLiteral("</a>"));
     m_seekerSignIn->setVisible(m_model.offersSeekerSignIn());
     m_more->setToolTip(L10n::text(L10n::Key::macYourAccount, lang));
+    m_more->setAccessibleName(m_more->toolTip());
     m_more->setVisible(!signedOut);
     fillMenu();
     fitHeight();

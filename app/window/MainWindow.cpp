@@ -323,6 +323,7 @@ void MainWindow::rebuildSections()
             return 0;
         }
     };
+    m_sections->setAccessibleName(L10n::text(Key::macGo, lang));
     m_showingSections = true;
     m_sections->clear();
     for (const MacSectionGroup& group : macSectionGroups(hiring)) {

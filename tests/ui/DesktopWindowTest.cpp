@@ -1,15 +1,20 @@
 #include "app/discovery/BoardScreen.h"
+#include "app/discovery/LedgerModel.h"
 #include "app/kit/Palette.h"
 #include "app/kit/Theme.h"
 #include "app/platform/ColorSchemeSource.h"
 #include "app/window/MainWindow.h"
+#include "core/format/Format.h"
+#include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
 #include "tests/ui/Screenshot.h"
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
@@ -161,4 +166,83 @@ TEST_F(DesktopWindowTest, NothingLeavesTheWindowAtItsMinimumSize)
     window.resize(1600, 1000);
     QTest::qWait(50);
     saveScreenshot(&window, QStringLiteral("board-full-dark-ru"));
+}
+
+TEST_F(DesktopWindowTest, EveryControlIsNamedInTheUsersLanguageAndRowsSayWhatTheyShow)
+{
+    openFirstListing();
+    for (const Lang lang : {Lang::ka, Lang::ru, Lang::en}) {
+        context->appState.setLang(lang);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return loaded(); }, 10000));
+        QTest::qWait(50);
+        QStringList unnamed;
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+                continue;
+            QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+            if (!face || face->text(QAccessible::Name).trimmed().isEmpty())
+                unnamed << widget->objectName() + QLatin1Char('/') +
+                               QString::fromLatin1(widget->metaObject()->className());
+        }
+        EXPECT_EQ(unnamed.join(QStringLiteral(", ")).toStdString(), "")
+            << rawValue(lang).toStdString();
+
+        const LedgerModel& ledger = window.board()->ledger();
+        int checked = 0;
+        for (int row = 0; row < ledger.rowCount() && checked < 6; ++row) {
+            const JobSummary* job = ledger.jobAt(row);
+            if (!job)
+                continue;
+            ++checked;
+            const QString said = ledger.index(row).data(Qt::AccessibleTextRole).toString();
+            const QString shown = job->title + QStringLiteral(", ") + job->employerName +
+                                  QStringLiteral(", ") +
+                                  context->taxonomy.cityLabel(job->city, lang);
+            EXPECT_TRUE(said.startsWith(shown)) << said.toStdString();
+            EXPECT_TRUE(said.contains(Format::salary(job->salaryMin, job->salaryMax)))
+                << said.toStdString();
+            if (job->featured) {
+                EXPECT_TRUE(said.contains(L10n::text(L10n::Key::featured, lang)));
+            }
+        }
+        EXPECT_GT(checked, 0);
+    }
+}
+
+TEST_F(DesktopWindowTest, TabFollowsTheEyeAndEscapeClearsTheSearch)
+{
+    openFirstListing();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto* search = window.findChild<QLineEdit*>(QStringLiteral("vl.board.search"));
+    search->setFocus(Qt::OtherFocusReason);
+    QStringList visited;
+    for (int step = 0; step < 120 && visited.size() < 120; ++step) {
+        QWidget* focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr);
+        visited << focused->objectName();
+        QTest::keyClick(focused, Qt::Key_Tab);
+    }
+    const auto first = [&](const QString& prefix) {
+        for (int i = 0; i < visited.size(); ++i) {
+            if (visited[i].startsWith(prefix))
+                return i;
+        }
+        return -1;
+    };
+    const int order[] = {
+        first(QStringLiteral("vl.board.search")),  first(QStringLiteral("vl.board.chip.")),
+        first(QStringLiteral("vl.board.filters")), first(QStringLiteral("vl.board.category.")),
+        first(QStringLiteral("vl.board.city.")),   first(QStringLiteral("vl.board.list")),
+        first(QStringLiteral("vl.detail.")),       first(QStringLiteral("vl.sidebar.sections"))};
+    for (size_t i = 0; i < std::size(order); ++i)
+        EXPECT_GE(order[i], 0) << i << ": " << visited.join(QLatin1Char(' ')).toStdString();
+    for (size_t i = 1; i < std::size(order); ++i)
+        EXPECT_LT(order[i - 1], order[i])
+            << i << ": " << visited.join(QLatin1Char(' ')).toStdString();
+
+    search->setFocus(Qt::OtherFocusReason);
+    QTest::keyClicks(search, QStringLiteral("driver"));
+    QTest::keyClick(search, Qt::Key_Escape);
+    EXPECT_TRUE(search->text().isEmpty());
 }
