@@ -50,6 +50,7 @@ constexpr LanguageChoice languageChoices[] = {
 MainWindow::MainWindow(AppContext& context, QWidget* parent)
     : QMainWindow(parent)
     , m_context(context)
+    , m_toolkit(context.appState)
     , m_account(context.auth, context.candidate, context.preferences())
     , m_banner(context.taxonomy, context.preferences())
 {

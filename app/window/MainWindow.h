@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shell/AccountMenuModel.h"
+#include "app/shell/ToolkitTranslator.h"
 #include "app/shell/UpdateBannerModel.h"
 
 #include <QMainWindow>
@@ -58,6 +59,7 @@ private:
     void openAccount(bool signInFirst);
 
     AppContext& m_context;
+    ToolkitTranslator m_toolkit;
     AccountMenuModel m_account;
     UpdateBannerModel m_banner;
     QStackedWidget* m_root = nullptr;

@@ -14,9 +14,13 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -245,4 +249,59 @@ TEST_F(DesktopWindowTest, TabFollowsTheEyeAndEscapeClearsTheSearch)
     QTest::keyClicks(search, QStringLiteral("driver"));
     QTest::keyClick(search, Qt::Key_Escape);
     EXPECT_TRUE(search->text().isEmpty());
+}
+
+TEST_F(DesktopWindowTest, QtsOwnTextsSpeakGeorgianAndRussian)
+{
+    const QStringList english{
+        QStringLiteral("Undo"),       QStringLiteral("Redo"),    QStringLiteral("Cut"),
+        QStringLiteral("Copy"),       QStringLiteral("Paste"),   QStringLiteral("Delete"),
+        QStringLiteral("Select All"), QStringLiteral("OK"),      QStringLiteral("Cancel"),
+        QStringLiteral("Save"),       QStringLiteral("Close"),   QStringLiteral("Open"),
+        QStringLiteral("Yes"),        QStringLiteral("No"),      QStringLiteral("Apply"),
+        QStringLiteral("Help"),       QStringLiteral("Discard"), QStringLiteral("Retry")};
+    const auto plain = [](QString text) { return text.remove(QLatin1Char('&')).trimmed(); };
+    for (const Lang lang : {Lang::ka, Lang::ru}) {
+        context->appState.setLang(lang);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return loaded(); }, 10000));
+        QStringList found;
+        // Russian desktops write "OK" in Latin letters, and Qt's Russian translation keeps it.
+        const QStringList foreign =
+            lang == Lang::ru
+                ? QStringList(english).filter(QRegularExpression(QStringLiteral("^(?!OK$)")))
+                : english;
+        auto* search = window.findChild<QLineEdit*>(QStringLiteral("vl.board.search"));
+        std::unique_ptr<QMenu> menu(search->createStandardContextMenu());
+        for (QAction* action : menu->actions()) {
+            if (!action->isSeparator() && foreign.contains(plain(action->text())))
+                found << action->text();
+        }
+        EXPECT_GE(menu->actions().size(), 6);
+        QDialogButtonBox buttons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                 QDialogButtonBox::Save | QDialogButtonBox::Close |
+                                 QDialogButtonBox::Yes | QDialogButtonBox::No);
+        for (QAbstractButton* button : buttons.buttons()) {
+            if (foreign.contains(plain(button->text())))
+                found << button->text();
+        }
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisible())
+                continue;
+            if (auto* button = qobject_cast<QAbstractButton*>(widget);
+                button && foreign.contains(plain(button->text())))
+                found << button->text();
+            if (auto* label = qobject_cast<QLabel*>(widget);
+                label && foreign.contains(plain(label->text())))
+                found << label->text();
+        }
+        EXPECT_EQ(found.join(QStringLiteral(", ")).toStdString(), "")
+            << rawValue(lang).toStdString();
+        if (lang == Lang::ka) {
+            menu->popup(search->mapToGlobal(QPoint(40, 20)));
+            QTest::qWait(50);
+            menu->grab().save(QCoreApplication::applicationDirPath() +
+                              QStringLiteral("/../screenshots/search-menu-ka.png"));
+        }
+    }
+    context->appState.setLang(Lang::en);
 }
