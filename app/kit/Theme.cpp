@@ -46,6 +46,15 @@ QLineEdit {
     selection-background-color: @accent@; selection-color: @onAccent@;
 }
 QLineEdit:focus { border: 1px solid @accent@; }
+QComboBox {
+    border: 1px solid @field@; border-radius: 8px; padding: 6px 10px; background: @paper@;
+    min-height: 20px;
+}
+QComboBox:focus { border-color: @accent@; }
+QComboBox QAbstractItemView {
+    background: @paper@; border: 1px solid @field@; selection-background-color: @selected@;
+    selection-color: @ink@;
+}
 QLineEdit:read-only { background: @side@; color: @muted@; }
 QPushButton {
     border: 1px solid @field@; border-radius: 8px; padding: 7px 16px; background: @paper@;

@@ -10,6 +10,7 @@
 #include "app/shell/BuildNumber.h"
 #include "app/window/AccountMenu.h"
 #include "app/window/AccountScreen.h"
+#include "app/window/SettingsWindow.h"
 #include "app/window/UpdateBanner.h"
 #include "app/window/UpdateRequiredScreen.h"
 #include "core/l10n/L10n.h"
@@ -19,6 +20,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
@@ -56,6 +58,8 @@ MainWindow::MainWindow(AppContext& context, QWidget* parent)
 {
     setObjectName(QStringLiteral("vl.main"));
     setWindowTitle(QStringLiteral("Velmora"));
+    setWindowIcon(QIcon::fromTheme(QStringLiteral("org.velmora.Velmora"),
+                                   QIcon(QStringLiteral(":/icons/org.velmora.Velmora.png"))));
     resize(1180, 820);
     setMinimumSize(720, 560);
 
@@ -179,6 +183,11 @@ void MainWindow::buildMenus()
     m_checkUpdates->setObjectName(QStringLiteral("vl.action.checkUpdates"));
     connect(m_checkUpdates, &QAction::triggered, this,
             [this] { QDesktopServices::openUrl(QUrl(m_context.taxonomy.updatePage())); });
+    m_settings = m_appMenu->addAction(QString());
+    m_settings->setObjectName(QStringLiteral("vl.action.settings"));
+    m_settings->setShortcut(QKeySequence::Preferences);
+    m_settings->setMenuRole(QAction::PreferencesRole);
+    connect(m_settings, &QAction::triggered, this, &MainWindow::openSettings);
     m_appMenu->addSeparator();
     m_help = m_appMenu->addAction(QString());
     m_help->setObjectName(QStringLiteral("vl.action.help"));
@@ -275,6 +284,7 @@ void MainWindow::retext()
 {
     const Lang lang = m_context.appState.lang();
     m_checkUpdates->setText(L10n::text(Key::macCheckUpdates, lang));
+    m_settings->setText(L10n::text(Key::macGeneral, lang));
     m_quit->setText(L10n::text(Key::mbQuit, lang));
     m_languageMenu->setTitle(L10n::text(Key::language, lang));
     for (QAction* action : m_languages->actions())
@@ -389,6 +399,17 @@ void MainWindow::refreshListingMenu()
     m_save->setText(L10n::text(saved ? Key::macUnsave : Key::macSave, lang));
 }
 
+void MainWindow::openSettings()
+{
+    if (!m_settingsWindow) {
+        m_settingsWindow = new SettingsWindow(m_context.appState, this);
+        m_settingsWindow->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_settingsWindow->show();
+    m_settingsWindow->raise();
+    m_settingsWindow->activateWindow();
+}
+
 void MainWindow::openOnSite(const QString& path)
 {
     QDesktopServices::openUrl(
@@ -423,6 +444,8 @@ void MainWindow::openAccount(bool signInFirst)
         m_accountSheet->close();
     m_accountSheet = new QDialog(this);
     m_accountSheet->setObjectName(QStringLiteral("vl.accountSheet"));
+    m_accountSheet->setWindowTitle(
+        L10n::text(L10n::Key::macYourAccount, m_context.appState.lang()));
     m_accountSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_accountSheet->setWindowModality(Qt::WindowModal);
     m_accountSheet->setFixedSize(480, 560);

@@ -55,6 +55,7 @@ private:
     void showSection();
     void refreshListingMenu();
     void openOnSite(const QString& path);
+    void openSettings();
     // The job seeker's sign-in in front of the account, or the account itself.
     void openAccount(bool signInFirst);
 
@@ -66,6 +67,7 @@ private:
     QMenu* m_appMenu = nullptr;
     QMenu* m_languageMenu = nullptr;
     QAction* m_checkUpdates = nullptr;
+    QAction* m_settings = nullptr;
     QAction* m_quit = nullptr;
     QMenu* m_listingMenu = nullptr;
     QMenu* m_goMenu = nullptr;
@@ -97,6 +99,7 @@ private:
     QActionGroup* m_languages = nullptr;
     QPointer<LoginSheet> m_loginSheet;
     QPointer<QDialog> m_accountSheet;
+    QPointer<QDialog> m_settingsWindow;
     bool m_gateClosed = false;
 };
 

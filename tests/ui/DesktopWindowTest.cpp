@@ -3,6 +3,7 @@
 #include "app/kit/Palette.h"
 #include "app/kit/Theme.h"
 #include "app/platform/ColorSchemeSource.h"
+#include "app/shell/BuildNumber.h"
 #include "app/window/MainWindow.h"
 #include "core/format/Format.h"
 #include "core/l10n/L10n.h"
@@ -14,6 +15,8 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -303,5 +306,30 @@ TEST_F(DesktopWindowTest, QtsOwnTextsSpeakGeorgianAndRussian)
                               QStringLiteral("/../screenshots/search-menu-ka.png"));
         }
     }
+    context->appState.setLang(Lang::en);
+}
+
+TEST_F(DesktopWindowTest, TheSettingsWindowSpeaksTheLanguageItSets)
+{
+    EXPECT_FALSE(window.windowIcon().isNull());
+    window.findChild<QAction*>(QStringLiteral("vl.action.settings"))->trigger();
+    auto* settings = window.findChild<QDialog*>(QStringLiteral("vl.settings"));
+    ASSERT_NE(settings, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(settings));
+    EXPECT_EQ(settings->windowTitle(), L10n::text(L10n::Key::tabSettings, Lang::en));
+    EXPECT_TRUE(settings->findChild<QLabel*>(QStringLiteral("vl.settings.version"))
+                    ->text()
+                    .contains(QString::number(runningBuildNumber())));
+    EXPECT_EQ(settings->findChild<QLabel*>(QStringLiteral("vl.settings.appearance"))->text(),
+              L10n::text(L10n::Key::macAppearance, Lang::en));
+
+    auto* language = settings->findChild<QComboBox*>(QStringLiteral("vl.settings.language"));
+    language->setCurrentIndex(language->findData(rawValue(Lang::ka)));
+    Q_EMIT language->activated(language->currentIndex());
+    EXPECT_EQ(context->appState.lang(), Lang::ka);
+    EXPECT_EQ(settings->windowTitle(), L10n::text(L10n::Key::tabSettings, Lang::ka));
+    QTest::qWait(50);
+    saveScreenshot(settings, QStringLiteral("settings-ka"));
+    settings->close();
     context->appState.setLang(Lang::en);
 }
