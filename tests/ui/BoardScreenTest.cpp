@@ -7,12 +7,14 @@
 #include "app/shell/InstanceChannel.h"
 #include "app/window/MainWindow.h"
 #include "core/l10n/L10n.h"
+#include "core/navigation/WebLink.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
 #include "tests/ui/Screenshot.h"
 #include "tests/ui/UrlCatcher.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
@@ -25,6 +27,7 @@
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -193,13 +196,53 @@ TEST_F(BoardScreenTest, SearchPickOpenStarAndFindItUnderSaved)
     EXPECT_TRUE(rows->item(0)->text().startsWith(context->router.readingJob()->title));
     saveScreenshot(&window, QStringLiteral("saved-en"));
 
-    // Removing the row empties the list; opening a saved row goes back to the board.
+    // Opening a saved row shows it on the board, in the detail pane.
+    const QString title = context->router.readingJob()->title;
+    context->router.selectJob(std::nullopt);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !context->router.readingJob(); }, 2000));
+    Q_EMIT rows->itemActivated(rows->item(0));
+    EXPECT_EQ(context->nav.section(), MacSection::vacancies);
+    EXPECT_TRUE(window.board()->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return context->router.readingJob().has_value(); }, 5000));
+    EXPECT_EQ(label("vl.detail.title")->text(), title);
+    selectSection(MacSection::saved);
+
+    // Removing the row empties the list.
     context->saved.toggle(*context->router.readingJob());
     context->saved.toggle(*context->router.readingJob());
     rows->setCurrentRow(0);
     QTest::keyClick(rows, Qt::Key_Delete);
     EXPECT_TRUE(context->saved.entries().empty());
     EXPECT_TRUE(part(window, QStringLiteral("vl.saved.empty"))->isVisible());
+}
+
+TEST_F(BoardScreenTest, ASavedRowsMenuOpensCopiesAndRemoves)
+{
+    action("nextListing")->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return context->router.readingJob().has_value(); }, 5000));
+    const JobDetail job = *context->router.readingJob();
+    context->saved.toggle(job);
+    selectSection(MacSection::saved);
+    auto* rows = part<QListWidget>(window, QStringLiteral("vl.saved.list"));
+    ASSERT_EQ(rows->count(), 1);
+    rows->setCurrentRow(0);
+
+    // The menu runs modally; each round picks one entry as soon as it shows.
+    const auto pick = [&](const char* name) {
+        QTimer::singleShot(0, [&, name] {
+            auto* menu = QApplication::activePopupWidget();
+            ASSERT_NE(menu, nullptr);
+            auto* entry = menu->findChild<QAction*>(QString::fromLatin1(name));
+            ASSERT_NE(entry, nullptr);
+            entry->trigger();
+            menu->close();
+        });
+        Q_EMIT rows->customContextMenuRequested(rows->visualItemRect(rows->item(0)).center());
+    };
+    pick("vl.saved.menu.copyLink");
+    EXPECT_EQ(vacancyRefOfWebLink(QUrl(QGuiApplication::clipboard()->text())), job.ref);
+    pick("vl.saved.menu.remove");
+    EXPECT_FALSE(context->saved.contains(job.ref));
 }
 
 TEST_F(BoardScreenTest, KeysAndMenusMoveThroughListingsAndPlaces)
