@@ -190,6 +190,7 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
     connect(m_list, &QListView::activated, this, &BoardScreen::bringDetailForward);
     connect(m_list, &QListView::clicked, this, &BoardScreen::bringDetailForward);
     connect(&context.auth, &AuthManager::sessionChanged, this, &BoardScreen::refresh);
+    connect(&context.candidate, &CandidateAuth::changed, this, &BoardScreen::refresh);
     connect(&context.taxonomy, &Taxonomy::changed, this, [this] {
         refreshRails();
         m_list->viewport()->update();
@@ -449,7 +450,8 @@ void BoardScreen::refresh()
             L10n::text(Key::bdFound, lang, m_model.total()) + QStringLiteral("  ·  ") + headline;
     m_headline->setText(headline);
     m_headline->setVisible(m_model.loadedQuery().has_value());
-    m_nudge->setVisible(!m_context.auth.hiring());
+    // Only a reader with no identity at all is asked to sign in.
+    m_nudge->setVisible(!m_context.auth.hiring() && !m_context.candidate.signedIn());
     showLoadState();
     refreshRails();
     refreshFresh();
