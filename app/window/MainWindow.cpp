@@ -10,6 +10,7 @@
 #include "app/shell/BuildNumber.h"
 #include "app/window/AccountMenu.h"
 #include "app/window/AccountScreen.h"
+#include "app/window/DoorSheet.h"
 #include "app/window/SettingsWindow.h"
 #include "app/window/UpdateBanner.h"
 #include "app/window/UpdateRequiredScreen.h"
@@ -113,8 +114,7 @@ QWidget* MainWindow::buildShell()
             m_context.nav.setSection(*section);
     });
     auto* account = new AccountMenu(m_account, m_context.appState, sidebar);
-    connect(account, &AccountMenu::signInRequested, this, &MainWindow::openSignIn);
-    connect(account, &AccountMenu::seekerSignInRequested, this, [this] { openAccount(true); });
+    connect(account, &AccountMenu::doorRequested, this, &MainWindow::openDoor);
     connect(account, &AccountMenu::accountRequested, this, [this] { openAccount(false); });
     auto* sideLayout = new QVBoxLayout(sidebar);
     sideLayout->setContentsMargins(0, 0, 0, 0);
@@ -397,6 +397,18 @@ void MainWindow::refreshListingMenu()
     m_openListing->setEnabled(reading);
     const bool saved = reading && m_context.saved.contains(job->ref);
     m_save->setText(L10n::text(saved ? Key::macUnsave : Key::macSave, lang));
+}
+
+void MainWindow::openDoor()
+{
+    if (m_gateClosed)
+        return;
+    auto* door = new DoorSheet(m_context.appState, !m_context.candidate.signedIn(),
+                               !m_context.auth.hiring(), this);
+    door->setAttribute(Qt::WA_DeleteOnClose);
+    connect(door, &DoorSheet::workChosen, this, [this] { openAccount(true); });
+    connect(door, &DoorSheet::hiringChosen, this, &MainWindow::openSignIn);
+    door->open();
 }
 
 void MainWindow::openSettings()

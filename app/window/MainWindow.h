@@ -56,6 +56,7 @@ private:
     void refreshListingMenu();
     void openOnSite(const QString& path);
     void openSettings();
+    void openDoor();
     // The job seeker's sign-in in front of the account, or the account itself.
     void openAccount(bool signInFirst);
 

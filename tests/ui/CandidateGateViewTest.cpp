@@ -66,7 +66,8 @@ protected:
 
     CandidateGateView* openGate()
     {
-        Q_EMIT part<QLabel>("vl.account.seekerSignIn")->linkActivated(QStringLiteral("seeker"));
+        part<QPushButton>("vl.account.signIn")->click();
+        part<QPushButton>("vl.door.work")->click();
         auto* gate = window->findChild<CandidateGateView*>();
         EXPECT_TRUE(gate && gate->isVisible());
         return gate;

@@ -35,6 +35,7 @@ protected:
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         button("vl.account.signIn")->click();
+        button("vl.door.hiring")->click();
         sheet = window->findChild<LoginSheet*>();
         ASSERT_TRUE(sheet && sheet->isVisible());
     }
