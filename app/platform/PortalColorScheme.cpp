@@ -31,8 +31,6 @@ PortalColorScheme::PortalColorScheme(QObject* parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
     // Asked without blocking: the window is built while the answer travels.
     QDBusMessage read =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
@@ -41,10 +39,21 @@ PortalColorScheme::PortalColorScheme(QObject* parent)
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this](QDBusPendingCallWatcher* call) {
                 const QDBusPendingReply<QVariant> reply = *call;
-                if (!reply.isError())
+                if (!reply.isError()) {
+                    listen();
                     take(reply.value());
+                }
                 call->deleteLater();
             });
+}
+
+// Changes are followed once the portal has answered. QtDBus finds the slot by its exact text,
+// with no spaces; the leading 1 marks a slot, as SLOT() would write it.
+void PortalColorScheme::listen()
+{
+    QDBusConnection::sessionBus().connect(service, path, interface,
+                                          QStringLiteral("SettingChanged"), this,
+                                          "1settingChanged(QString,QString,QDBusVariant)");
 }
 
 bool PortalColorScheme::dark() const

@@ -2,9 +2,8 @@
 
 #include "app/platform/ColorSchemeSource.h"
 
+#include <QDBusVariant>
 #include <optional>
-
-class QDBusVariant;
 
 namespace vl {
 
@@ -18,9 +17,11 @@ public:
     bool dark() const override;
 
 private Q_SLOTS:
+    // The portal's change signal; QtDBus needs the full QDBusVariant type to deliver it.
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
+    void listen();
     void take(const QVariant& value);
 
     bool m_platformDark = false;
