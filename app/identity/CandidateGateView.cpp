@@ -145,7 +145,7 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
     m_secret = label(m_steps, "vl.gate.secret", "key");
     m_secret->setWordWrap(false);
     m_secret->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    // Beside the key, the same key as a code the authenticator's camera reads.
+    // The same key as a code the authenticator's camera reads.
     m_qr = new QLabel(m_steps);
     m_qr->setObjectName(QStringLiteral("vl.gate.qr"));
     m_copySecret = button(m_steps, "vl.gate.copySecret", "quiet");
@@ -156,15 +156,10 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
     m_totpCode->setPlaceholderText(QStringLiteral("000000"));
     m_totpContinue = button(m_steps, "vl.gate.totpContinue", "primary");
     totp->addWidget(m_secretHint);
-    auto* keyRow = new QHBoxLayout;
-    keyRow->setSpacing(16);
-    keyRow->addWidget(m_qr, 0, Qt::AlignTop);
-    auto* keyColumn = new QVBoxLayout;
-    keyColumn->addWidget(m_secret);
-    keyColumn->addWidget(m_copySecret, 0, Qt::AlignLeft);
-    keyColumn->addStretch(1);
-    keyRow->addLayout(keyColumn, 1);
-    totp->addLayout(keyRow);
+    // The code above the key: side by side they would not fit the sheet's width on one line.
+    totp->addWidget(m_qr, 0, Qt::AlignLeft);
+    totp->addWidget(m_secret);
+    totp->addWidget(m_copySecret, 0, Qt::AlignLeft);
     totp->addWidget(m_thenCode);
     totp->addWidget(m_totpCode);
     totp->addWidget(m_totpContinue);
@@ -297,9 +292,11 @@ void CandidateGateView::refresh()
                    m_appState.lang()));
     if (m_secret->text() != m_gate.groupedTotpSecret()) {
         m_secret->setText(m_gate.groupedTotpSecret());
-        m_qr->setPixmap(m_gate.totpSecret().isEmpty()
-                            ? QPixmap()
-                            : QPixmap::fromImage(qrImage(otpauthUri(m_gate.totpSecret()), 4)));
+        const QPixmap code = m_gate.totpSecret().isEmpty()
+                                 ? QPixmap()
+                                 : QPixmap::fromImage(qrImage(otpauthUri(m_gate.totpSecret()), 4));
+        m_qr->setPixmap(code);
+        m_qr->setFixedSize(code.size());
     }
     focusStep(step);
     if (m_email->text() != m_gate.email)

@@ -121,6 +121,10 @@ TEST_F(GateView, ShowsEachStepInTurnAndGivesWayToTheAccountOnceSignedIn)
     const QString secret = gate->gate().totpSecret();
     EXPECT_EQ(part<QLabel>("vl.gate.secret")->text(), groupedSecret(secret));
     EXPECT_EQ(gate->window()->focusWidget(), part<QLineEdit>("vl.gate.totpCode"));
+    QTest::qWait(50);
+    // The code stands clear of the key below it.
+    EXPECT_LE(part<QLabel>("vl.gate.qr")->geometry().bottom(),
+              part<QLabel>("vl.gate.secret")->geometry().top());
     saveScreenshot(window.get(), QStringLiteral("gate-totp-en"));
 
     // The QR code beside the key reads back as the authenticator's link.
