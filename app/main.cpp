@@ -1,9 +1,10 @@
 #include "app/kit/Theme.h"
+#include "app/platform/PortalColorScheme.h"
 #include "app/shell/AppContext.h"
 #include "app/shell/InstanceChannel.h"
-#include "app/shell/MainWindow.h"
 #include "app/shell/QuitWhenSettled.h"
 #include "app/shell/WebLinkHandler.h"
+#include "app/window/MainWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -14,9 +15,9 @@ namespace {
 
 // The start, in order: the stored session first, so the window never shows a signed-out
 // moment to someone who is signed in; then the window; then the boot behind it.
-QCoro::Task<> launch(vl::AppContext& context, vl::MainWindow& window)
+QCoro::Task<> launch(QCoro::Task<> restoring, vl::AppContext& context, vl::MainWindow& window)
 {
-    co_await context.start();
+    co_await std::move(restoring);
     window.show();
     co_await context.boot();
 }
@@ -48,9 +49,13 @@ int main(int argc, char** argv)
         return 0;
     channel.listen();
 
-    vl::Theme::apply(app);
+    vl::PortalColorScheme scheme;
+    vl::Theme::apply(app, scheme.dark());
+    vl::Theme::follow(app, scheme);
     vl::AppContext context(std::move(bindings));
     vl::quitWhenSettled(app, context);
+    // The stored session's read goes out first; the window is built while it travels.
+    QCoro::Task<> restoring = context.start();
     context.calls.setBooted();
     context.review.countLaunch();
     vl::MainWindow window(context);
@@ -78,6 +83,8 @@ int main(int argc, char** argv)
             QApplication::quit();
         });
     }
-    QTimer::singleShot(0, &app, [&context, &window] { launch(context, window); });
+    QTimer::singleShot(0, &app, [&restoring, &context, &window] {
+        launch(std::move(restoring), context, window);
+    });
     return app.exec();
 }

@@ -8,6 +8,8 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-websockets-dev qt6-httpserver-dev
   libqt6sql6-sqlite libqt6svg6 qt6-qpa-plugins
   qcoro-qt6-dev qtkeychain-qt6-dev
+  qt6-l10n-tools qt6-translations-l10n
+  libqrencode-dev zbar-tools
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   dbus dbus-x11 gnome-keyring libsecret-tools
   openssl python3

@@ -7,12 +7,16 @@
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
+#include "core/navigation/MacSection.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -30,6 +34,15 @@ namespace {
 
 // Rows from the end at which the next page is asked for.
 constexpr int loadMoreMargin = 12;
+// Below this width the list and the open listing no longer fit side by side.
+constexpr int narrowWidth = 860;
+// Below this height the head would take more than half of the column.
+constexpr int shortHeight = 640;
+// The pages of the board's body.
+constexpr int listPage = 0;
+constexpr int emptyPage = 1;
+constexpr int errorPage = 2;
+constexpr int loadingPage = 3;
 
 struct ChipSpec {
     const char* name;
@@ -75,6 +88,8 @@ QScrollArea* railArea(QWidget* parent, QHBoxLayout*& row)
 {
     auto* area = new QScrollArea(parent);
     Theme::setRole(area, "rail");
+    // The chips take the focus, one by one; the rail itself is only their frame.
+    area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -104,21 +119,41 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
     , m_ledger(m_model, context.scheduler())
 {
     setObjectName(QStringLiteral("vl.board"));
+    // The first page is asked for before the widgets are built, so the answer travels meanwhile.
+    loadFirst(false);
     auto* split = new QSplitter(Qt::Horizontal, this);
     split->setObjectName(QStringLiteral("vl.board.split"));
     split->setChildrenCollapsible(false);
     split->setHandleWidth(1);
 
-    auto* column = new QWidget(split);
-    auto* columnLayout = new QVBoxLayout(column);
+    m_column = new QWidget(split);
+    auto* columnLayout = new QVBoxLayout(m_column);
     columnLayout->setContentsMargins(0, 0, 0, 0);
     columnLayout->setSpacing(0);
     columnLayout->addWidget(buildHead());
     columnLayout->addWidget(buildBody(), 1);
 
-    m_detail = new JobDetailView(context, split);
-    split->addWidget(column);
-    split->addWidget(m_detail);
+    // On a narrow window the listing takes the list's place, with a way back above it.
+    m_detailSide = new QWidget(split);
+    m_back = new QPushButton(m_detailSide);
+    m_back->setObjectName(QStringLiteral("vl.board.back"));
+    Theme::setRole(m_back, "link");
+    connect(m_back, &QPushButton::clicked, this, [this] {
+        m_detailInFront = false;
+        arrangePanes();
+        m_list->setFocus(Qt::OtherFocusReason);
+    });
+    m_detail = new JobDetailView(context, m_detailSide);
+    auto* sideLayout = new QVBoxLayout(m_detailSide);
+    sideLayout->setContentsMargins(0, 0, 0, 0);
+    sideLayout->setSpacing(0);
+    auto* backRow = new QHBoxLayout;
+    backRow->setContentsMargins(18, 10, 18, 0);
+    backRow->addWidget(m_back, 0, Qt::AlignLeft);
+    sideLayout->addLayout(backRow);
+    sideLayout->addWidget(m_detail, 1);
+    split->addWidget(m_column);
+    split->addWidget(m_detailSide);
     split->setStretchFactor(0, 3);
     split->setStretchFactor(1, 2);
     split->setSizes({560, 420});
@@ -146,30 +181,38 @@ BoardScreen::BoardScreen(AppContext& context, QWidget* parent)
         m_search->setFocus(Qt::ShortcutFocusReason);
         m_search->selectAll();
     });
-    connect(&context.router, &Router::selectedJobChanged, this, &BoardScreen::followSelection);
+    connect(&context.router, &Router::selectedJobChanged, this, [this] {
+        followSelection();
+        if (m_context.router.selectedJob())
+            bringDetailForward();
+    });
+    // Choosing the row already open brings it back too.
+    connect(m_list, &QListView::activated, this, &BoardScreen::bringDetailForward);
+    connect(m_list, &QListView::clicked, this, &BoardScreen::bringDetailForward);
     connect(&context.auth, &AuthManager::sessionChanged, this, &BoardScreen::refresh);
+    connect(&context.candidate, &CandidateAuth::changed, this, &BoardScreen::refresh);
     connect(&context.taxonomy, &Taxonomy::changed, this, [this] {
         refreshRails();
         m_list->viewport()->update();
     });
 
     retext();
-    if (m_model.items().empty())
-        loadFirst(false);
+    arrangePanes();
 }
 
 QWidget* BoardScreen::buildHead()
 {
     auto* head = new QWidget(this);
     auto* layout = new QVBoxLayout(head);
-    layout->setContentsMargins(18, 16, 18, 8);
-    layout->setSpacing(10);
+    layout->setContentsMargins(18, 12, 18, 6);
+    layout->setSpacing(8);
 
     auto* searchRow = new QHBoxLayout;
     searchRow->setSpacing(8);
     m_search = new QLineEdit(head);
     m_search->setObjectName(QStringLiteral("vl.board.search"));
     m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_model.setQuery(text, m_context.appState.lang()); });
     m_filters = new QPushButton(head);
@@ -187,6 +230,7 @@ QWidget* BoardScreen::buildHead()
 
     QHBoxLayout* chipRow = nullptr;
     QScrollArea* chipArea = railArea(head, chipRow);
+    m_chipArea = chipArea;
     chipArea->setObjectName(QStringLiteral("vl.board.chips"));
     for (size_t i = 0; i < std::size(chipSpecs); ++i) {
         QToolButton* chip =
@@ -254,7 +298,33 @@ QWidget* BoardScreen::buildHead()
 
 QWidget* BoardScreen::buildBody()
 {
-    m_states = new QStackedWidget(this);
+    auto* body = new QWidget(this);
+    // A reload keeps the rows and shows only this thin bar; a failed one keeps them too, under
+    // one line that says so with a way to try again.
+    m_reloading = new QProgressBar(body);
+    m_reloading->setObjectName(QStringLiteral("vl.board.reloading"));
+    m_reloading->setRange(0, 0);
+    m_reloading->setTextVisible(false);
+    Theme::setRole(m_reloading, "busy");
+    QSizePolicy keepRoom = m_reloading->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true);
+    m_reloading->setSizePolicy(keepRoom);
+    m_failLine = new QWidget(body);
+    m_failLine->setObjectName(QStringLiteral("vl.board.failLine"));
+    m_failText = new QLabel(m_failLine);
+    m_failText->setObjectName(QStringLiteral("vl.board.failText"));
+    Theme::setRole(m_failText, "caption");
+    m_failRetry = new QPushButton(m_failLine);
+    m_failRetry->setObjectName(QStringLiteral("vl.board.failRetry"));
+    Theme::setRole(m_failRetry, "link");
+    connect(m_failRetry, &QPushButton::clicked, this, &BoardScreen::retry);
+    auto* failLayout = new QHBoxLayout(m_failLine);
+    failLayout->setContentsMargins(18, 4, 18, 4);
+    failLayout->addWidget(m_failText, 1);
+    failLayout->addWidget(m_failRetry);
+    m_failLine->hide();
+
+    m_states = new QStackedWidget(body);
     m_states->setObjectName(QStringLiteral("vl.board.states"));
 
     m_list = new QListView(m_states);
@@ -263,6 +333,8 @@ QWidget* BoardScreen::buildBody()
     m_list->setModel(&m_ledger);
     m_delegate = new LedgerDelegate(m_list);
     m_delegate->setCityLabel(
+        [this](const QString& key) { return m_context.taxonomy.cityLabel(key, m_ledger.lang()); });
+    m_ledger.setCityLabel(
         [this](const QString& key) { return m_context.taxonomy.cityLabel(key, m_ledger.lang()); });
     m_list->setItemDelegate(m_delegate);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -302,14 +374,35 @@ QWidget* BoardScreen::buildBody()
     m_retry = new QPushButton(error);
     m_retry->setObjectName(QStringLiteral("vl.board.retry"));
     Theme::setRole(m_retry, "primary");
-    connect(m_retry, &QPushButton::clicked, this, [this] { loadFirst(false); });
+    connect(m_retry, &QPushButton::clicked, this, &BoardScreen::retry);
     errorLayout->addWidget(m_errorTitle, 0, Qt::AlignHCenter);
     errorLayout->addWidget(m_errorBody, 0, Qt::AlignHCenter);
     errorLayout->addSpacing(8);
     errorLayout->addWidget(m_retry, 0, Qt::AlignHCenter);
     errorLayout->addStretch(1);
     m_states->addWidget(error);
-    return m_states;
+
+    // The first load shows this in place of the rows, and no count until the answer comes.
+    auto* loadingPage = new QWidget(m_states);
+    loadingPage->setObjectName(QStringLiteral("vl.board.loading"));
+    auto* loadingBar = new QProgressBar(loadingPage);
+    loadingBar->setRange(0, 0);
+    loadingBar->setTextVisible(false);
+    loadingBar->setFixedWidth(160);
+    Theme::setRole(loadingBar, "busy");
+    auto* loadingLayout = new QVBoxLayout(loadingPage);
+    loadingLayout->addStretch(1);
+    loadingLayout->addWidget(loadingBar, 0, Qt::AlignHCenter);
+    loadingLayout->addStretch(2);
+    m_states->addWidget(loadingPage);
+
+    auto* layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_reloading);
+    layout->addWidget(m_failLine);
+    layout->addWidget(m_states, 1);
+    return body;
 }
 
 void BoardScreen::retext()
@@ -318,6 +411,8 @@ void BoardScreen::retext()
     m_ledger.setLang(lang);
     m_delegate->setLang(lang);
     m_search->setPlaceholderText(L10n::text(Key::search, lang));
+    m_search->setAccessibleName(L10n::text(Key::search, lang));
+    m_list->setAccessibleName(L10n::text(titleKey(MacSection::vacancies), lang));
     for (size_t i = 0; i < m_chips.size(); ++i)
         m_chips[i]->setText(L10n::text(chipSpecs[i].key, lang));
     m_nudge->setText(L10n::text(Key::boardSignInNudge, lang));
@@ -325,10 +420,14 @@ void BoardScreen::retext()
     m_categoriesTitle->setText(L10n::text(Key::bdBrowse, lang));
     m_citiesTitle->setText(L10n::text(Key::bdCities, lang));
     m_empty->setText(L10n::text(Key::boardEmpty, lang));
+    m_back->setText(QStringLiteral("‹ ") + L10n::text(Key::allListings, lang));
     m_errorTitle->setText(L10n::text(Key::errLoadTitle, lang));
     m_errorBody->setText(L10n::text(Key::errLoadBody, lang));
     m_retry->setText(L10n::text(Key::retry, lang));
+    m_failText->setText(L10n::text(Key::errLoadTitle, lang));
+    m_failRetry->setText(L10n::text(Key::retry, lang));
     m_post->setToolTip(L10n::text(Key::macNewVacancy, lang));
+    m_post->setAccessibleName(L10n::text(Key::macNewVacancy, lang));
     refresh();
     m_list->viewport()->update();
 }
@@ -350,16 +449,50 @@ void BoardScreen::refresh()
         headline =
             L10n::text(Key::bdFound, lang, m_model.total()) + QStringLiteral("  ·  ") + headline;
     m_headline->setText(headline);
-    m_nudge->setVisible(!m_context.auth.hiring());
-
-    if (m_model.failed() && m_model.items().empty())
-        m_states->setCurrentIndex(2);
-    else if (!m_model.loading() && m_model.items().empty() && m_model.loadedQuery())
-        m_states->setCurrentIndex(1);
-    else
-        m_states->setCurrentIndex(0);
+    m_headline->setVisible(m_model.loadedQuery().has_value());
+    // Only a reader with no identity at all is asked to sign in.
+    m_nudge->setVisible(!m_context.auth.hiring() && !m_context.candidate.signedIn());
+    showLoadState();
     refreshRails();
     refreshFresh();
+    orderTabs();
+}
+
+void BoardScreen::showLoadState()
+{
+    const bool loading = m_model.loading();
+    const bool failed = m_model.failed();
+    const bool empty = m_model.items().empty();
+    if (failed && empty)
+        m_states->setCurrentIndex(errorPage);
+    else if (loading && empty)
+        m_states->setCurrentIndex(loadingPage);
+    else if (!loading && empty && m_model.loadedQuery())
+        m_states->setCurrentIndex(emptyPage);
+    else
+        m_states->setCurrentIndex(listPage);
+    m_reloading->setVisible(loading && !empty);
+    m_failLine->setVisible(failed && !empty && !loading);
+    if (m_wasLoading && !loading) {
+        // A listing that failed beside a list that now loads is asked for again.
+        if (!failed && m_detail->model().failed())
+            m_detail->reload();
+        QAccessibleEvent done(failed ? static_cast<QWidget*>(m_failText) : m_headline,
+                              failed ? QAccessible::Alert : QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&done);
+    }
+    m_wasLoading = loading;
+}
+
+void BoardScreen::retry()
+{
+    // A failed next page is asked for again; a failed first page reloads the list.
+    if (m_model.items().empty())
+        loadFirst(false);
+    else
+        m_model.load(m_context.appState.lang(), false, false);
+    if (m_context.router.selectedJob())
+        m_detail->reload();
 }
 
 void BoardScreen::refreshRails()
@@ -421,17 +554,45 @@ void BoardScreen::refreshRails()
             fitHeight(rail.city ? m_citiesArea : m_categoriesArea);
         }
         for (int i = 0; i < rail.row->count(); ++i) {
-            if (auto* chip = qobject_cast<QToolButton*>(rail.row->itemAt(i)->widget()))
-                chip->setChecked(*rail.chosen == chip->property("vlKey").toString());
+            auto* chip = qobject_cast<QToolButton*>(rail.row->itemAt(i)->widget());
+            if (!chip)
+                continue;
+            chip->setChecked(*rail.chosen == chip->property("vlKey").toString());
+            if (chip->isChecked())
+                (rail.city ? m_citiesArea : m_categoriesArea)->ensureWidgetVisible(chip);
         }
     }
+    orderTabs();
+}
+
+// Tab follows the eye: search, quick picks, filters, the fresh strip, the rails, the list, the
+// open listing. Rails fill in later, so the order is set again whenever they change.
+void BoardScreen::orderTabs()
+{
+    QWidgetList chain{m_search};
+    for (QToolButton* chip : m_chips)
+        chain << chip;
+    chain << m_filters << m_post;
+    for (QHBoxLayout* row : {m_freshRow, m_categoriesRow, m_citiesRow}) {
+        for (int i = 0; i < row->count(); ++i) {
+            if (QWidget* widget = row->itemAt(i)->widget())
+                chain << widget;
+        }
+    }
+    chain << m_list;
+    for (QWidget* widget : m_detailSide->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            chain << widget;
+    }
+    for (qsizetype i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
 }
 
 void BoardScreen::refreshFresh()
 {
     const auto& summary = m_model.summary();
-    const bool show = m_model.activeFilters() == 0 && m_model.query().isEmpty() && summary &&
-                      !summary->fresh.empty();
+    const bool show = !m_short && m_model.activeFilters() == 0 && m_model.query().isEmpty() &&
+                      summary && !summary->fresh.empty();
     m_fresh->setVisible(show);
     if (!show)
         return;
@@ -482,6 +643,37 @@ void BoardScreen::maybeLoadMore()
         m_model.loadMore(m_context.appState.lang());
 }
 
+void BoardScreen::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // On a short window the fresh strip gives its room to the list.
+    if (const bool isShort = height() < shortHeight; isShort != m_short) {
+        m_short = isShort;
+        refreshFresh();
+    }
+    const bool narrow = width() < narrowWidth;
+    if (narrow == m_narrow)
+        return;
+    m_narrow = narrow;
+    arrangePanes();
+}
+
+void BoardScreen::bringDetailForward()
+{
+    if (!m_narrow || m_detailInFront)
+        return;
+    m_detailInFront = true;
+    arrangePanes();
+}
+
+void BoardScreen::arrangePanes()
+{
+    const bool front = m_narrow && m_detailInFront;
+    m_back->setVisible(m_narrow);
+    m_column->setVisible(!front);
+    m_detailSide->setVisible(!m_narrow || front);
+}
+
 void BoardScreen::followSelection()
 {
     const auto& ref = m_context.router.selectedJob();
@@ -523,7 +715,12 @@ void BoardScreen::openPostGate()
 
 bool BoardScreen::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!m_drawn && watched == m_list->viewport() && event->type() == QEvent::Paint &&
+    if (watched == m_search && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && !m_search->text().isEmpty()) {
+        m_search->clear();
+        return true;
+    }
+    if (!m_drawn && m_list && watched == m_list->viewport() && event->type() == QEvent::Paint &&
         m_ledger.rowCount() > 0) {
         m_drawn = true;
         QTimer::singleShot(0, this, &BoardScreen::firstPageDrawn);

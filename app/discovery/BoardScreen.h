@@ -10,6 +10,7 @@
 class QLabel;
 class QLineEdit;
 class QListView;
+class QProgressBar;
 class QPushButton;
 class QScrollArea;
 class QHBoxLayout;
@@ -41,18 +42,24 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* buildHead();
     QWidget* buildBody();
     void retext();
     void refresh();
+    void showLoadState();
+    void retry();
     void refreshRails();
     void refreshFresh();
     void loadFirst(bool fresh);
     void reload();
     void maybeLoadMore();
     void followSelection();
+    void arrangePanes();
+    void orderTabs();
+    void bringDetailForward();
     void openFilters();
     void openPostGate();
 
@@ -70,22 +77,34 @@ private:
     QLabel* m_freshTitle = nullptr;
     QHBoxLayout* m_freshRow = nullptr;
     QLabel* m_categoriesTitle = nullptr;
+    QScrollArea* m_chipArea = nullptr;
     QScrollArea* m_freshArea = nullptr;
     QScrollArea* m_categoriesArea = nullptr;
     QScrollArea* m_citiesArea = nullptr;
     QHBoxLayout* m_categoriesRow = nullptr;
     QLabel* m_citiesTitle = nullptr;
     QHBoxLayout* m_citiesRow = nullptr;
+    QProgressBar* m_reloading = nullptr;
+    QWidget* m_failLine = nullptr;
+    QLabel* m_failText = nullptr;
+    QPushButton* m_failRetry = nullptr;
     QStackedWidget* m_states = nullptr;
     QListView* m_list = nullptr;
     QLabel* m_empty = nullptr;
     QLabel* m_errorTitle = nullptr;
     QLabel* m_errorBody = nullptr;
     QPushButton* m_retry = nullptr;
+    QWidget* m_column = nullptr;
+    QWidget* m_detailSide = nullptr;
+    QPushButton* m_back = nullptr;
     JobDetailView* m_detail = nullptr;
     QPointer<FilterSheet> m_filterSheet;
     bool m_drawn = false;
     bool m_selecting = false;
+    bool m_wasLoading = false;
+    bool m_narrow = false;
+    bool m_short = false;
+    bool m_detailInFront = false;
 };
 
 } // namespace vl

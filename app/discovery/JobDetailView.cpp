@@ -4,10 +4,12 @@
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
 
+#include <QAccessible>
 #include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -71,6 +73,8 @@ JobDetailView::JobDetailView(AppContext& context, QWidget* parent)
     m_states->addWidget(error);
 
     auto* scroll = new QScrollArea(m_states);
+    // The listing's own controls take the focus; its frame only scrolls.
+    scroll->setFocusPolicy(Qt::NoFocus);
     Theme::setRole(scroll, "plain");
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -157,9 +161,20 @@ JobDetailView::JobDetailView(AppContext& context, QWidget* parent)
     scroll->setWidget(page);
     m_states->addWidget(scroll);
 
+    // A listing on its way shows this quiet bar, never the hint to pick one.
+    m_busy = new QProgressBar(this);
+    m_busy->setObjectName(QStringLiteral("vl.detail.busy"));
+    m_busy->setRange(0, 0);
+    m_busy->setTextVisible(false);
+    Theme::setRole(m_busy, "busy");
+    QSizePolicy keepRoom = m_busy->sizePolicy();
+    keepRoom.setRetainSizeWhenHidden(true);
+    m_busy->setSizePolicy(keepRoom);
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(m_states);
+    outer->setSpacing(0);
+    outer->addWidget(m_busy);
+    outer->addWidget(m_states, 1);
 
     connect(&m_model, &JobDetailModel::changed, this, &JobDetailView::show);
     connect(&context.router, &Router::selectedJobChanged, this, &JobDetailView::reload);
@@ -204,14 +219,18 @@ void JobDetailView::showStar()
 void JobDetailView::show()
 {
     const auto& job = m_model.detail();
+    m_busy->setVisible(m_model.loading());
     if (m_model.failed()) {
         m_states->setCurrentIndex(1);
+        QAccessibleEvent alert(m_errorTitle, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
         return;
     }
     if (!job) {
-        // While a listing loads the pane stays empty rather than flashing the hint.
-        m_pick->setVisible(!m_model.loading());
+        // While a listing loads the pane stays empty rather than flashing the hint; the stack
+        // shows the page it turns to, so the hint is hidden after the turn.
         m_states->setCurrentIndex(0);
+        m_pick->setVisible(!m_model.loading());
         return;
     }
     m_states->setCurrentIndex(2);

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLabel;
+class QProgressBar;
 class QPushButton;
 class QStackedWidget;
 class QVBoxLayout;
@@ -21,9 +22,10 @@ public:
     explicit JobDetailView(AppContext& context, QWidget* parent = nullptr);
 
     JobDetailModel& model() { return m_model; }
+    // Asks again for the listing the router has selected.
+    void reload();
 
 private:
-    void reload();
     void show();
     void retext();
     void showStar();
@@ -31,6 +33,7 @@ private:
 
     AppContext& m_context;
     JobDetailModel m_model;
+    QProgressBar* m_busy = nullptr;
     QStackedWidget* m_states = nullptr;
     QLabel* m_pick = nullptr;
     QLabel* m_errorTitle = nullptr;

@@ -1,6 +1,7 @@
 #include "app/discovery/LedgerModel.h"
 
 #include "app/discovery/BoardModel.h"
+#include "core/format/Format.h"
 #include "core/l10n/L10n.h"
 
 #include <algorithm>
@@ -8,6 +9,13 @@
 namespace vl {
 
 namespace {
+
+// A listing that takes applications here says so where it is tagged.
+QString directTag(Lang lang)
+{
+    return L10n::text(L10n::Key::directBadge, lang) + QStringLiteral(" · ") +
+           L10n::text(L10n::Key::applyHere, lang);
+}
 
 L10n::Key headKey(const BoardLedger::Head& head)
 {
@@ -130,15 +138,37 @@ QVariant LedgerModel::data(const QModelIndex& index, int role) const
     case DirectTagRole:
         if (row.isHead() || !row.job->direct.value_or(false))
             return QString();
-        return L10n::text(L10n::Key::directBadge, m_lang) + QStringLiteral(" · ") +
-               L10n::text(L10n::Key::applyHere, m_lang);
-    case RefRole:
+        return directTag(m_lang);
     case Qt::AccessibleTextRole:
+        if (!row.isHead())
+            return spoken(*row.job, BoardLedger::isFresh(*row.job, m_now()));
+        return L10n::text(headKey(row.head), m_lang);
+    case RefRole:
     case Qt::DisplayRole:
         return row.isHead() ? L10n::text(headKey(row.head), m_lang) : row.job->ref;
     default:
         return {};
     }
+}
+
+void LedgerModel::setCityLabel(std::function<QString(const QString&)> label)
+{
+    m_cityLabel = std::move(label);
+}
+
+// What the row shows, in the order it shows it: title, employer, city, pay, then its tags.
+QString LedgerModel::spoken(const JobSummary& job, bool fresh) const
+{
+    QStringList parts{job.title, job.employerName, m_cityLabel ? m_cityLabel(job.city) : job.city};
+    if (const QString pay = Format::salary(job.salaryMin, job.salaryMax); !pay.isEmpty())
+        parts << pay;
+    if (fresh)
+        parts << L10n::text(L10n::Key::bdNewTag, m_lang);
+    if (job.featured)
+        parts << L10n::text(L10n::Key::featured, m_lang);
+    if (job.direct.value_or(false))
+        parts << directTag(m_lang);
+    return parts.join(QStringLiteral(", "));
 }
 
 Qt::ItemFlags LedgerModel::flags(const QModelIndex& index) const

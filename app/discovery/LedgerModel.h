@@ -38,6 +38,8 @@ public:
 
     void setLang(Lang lang);
     Lang lang() const { return m_lang; }
+    // How a city key reads in the current language, for what a row says to a screen reader.
+    void setCityLabel(std::function<QString(const QString&)> label);
     const std::vector<BoardLedger::Row>& rows() const { return m_rows; }
     // The list row of a listing, or -1.
     int rowOfRef(const QString& ref) const;
@@ -52,11 +54,13 @@ public:
 private:
     void rebuild();
     void waitForMidnight();
+    QString spoken(const JobSummary& job, bool fresh) const;
 
     BoardModel& m_board;
     Scheduler& m_scheduler;
     Scheduler::Handle m_midnight;
     Clock m_now;
+    std::function<QString(const QString&)> m_cityLabel;
     Lang m_lang = Lang::ka;
     std::vector<BoardLedger::Row> m_rows;
     QStringList m_ids;

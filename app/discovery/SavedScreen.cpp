@@ -5,11 +5,15 @@
 #include "app/shell/AppContext.h"
 #include "core/l10n/L10n.h"
 
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QStackedWidget>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace vl {
@@ -35,16 +39,16 @@ SavedScreen::SavedScreen(AppContext& context, QWidget* parent)
     m_list->setMouseTracking(true);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->installEventFilter(this);
-    connect(m_list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
-        m_context.router.selectJob(item->data(Qt::UserRole).toString());
-    });
+    connect(m_list, &QListWidget::itemActivated, this,
+            [this](QListWidgetItem* item) { open(item->data(Qt::UserRole).toString()); });
     connect(m_list, &QListWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        if (!m_list->itemAt(at))
+        const QListWidgetItem* item = m_list->itemAt(at);
+        if (!item)
             return;
         QMenu menu(this);
         menu.setObjectName(QStringLiteral("vl.saved.menu"));
-        QAction* remove = menu.addAction(L10n::text(Key::macRemove, m_context.appState.lang()));
-        connect(remove, &QAction::triggered, this, &SavedScreen::removeSelected);
+        fillMenu(menu, item->data(Qt::UserRole).toString(),
+                 item->data(SavedRowDelegate::TitleRole).toString());
         menu.exec(m_list->viewport()->mapToGlobal(at));
     });
     m_states->addWidget(m_list);
@@ -90,6 +94,43 @@ void SavedScreen::rebuild()
         item->setData(SavedRowDelegate::PlaceRole, place);
     }
     m_states->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
+}
+
+// The listing opens on the board, in the detail pane beside the list.
+void SavedScreen::open(const QString& ref)
+{
+    m_context.nav.setSection(MacSection::vacancies);
+    m_context.router.selectJob(ref);
+}
+
+QString SavedScreen::webLink(const QString& ref) const
+{
+    return m_context.site() + QStringLiteral("/vacancy/") + ref;
+}
+
+// The row's menu: its title opens it here; then the link, the site and removal.
+void SavedScreen::fillMenu(QMenu& menu, const QString& ref, const QString& title)
+{
+    const Lang lang = m_context.appState.lang();
+    QAction* open = menu.addAction(title);
+    open->setObjectName(QStringLiteral("vl.saved.menu.open"));
+    QFont bold = open->font();
+    bold.setBold(true);
+    open->setFont(bold);
+    connect(open, &QAction::triggered, this, [this, ref] { this->open(ref); });
+    menu.addSeparator();
+    QAction* copy = menu.addAction(L10n::text(Key::macCopyLink, lang));
+    copy->setObjectName(QStringLiteral("vl.saved.menu.copyLink"));
+    connect(copy, &QAction::triggered, this,
+            [this, ref] { QGuiApplication::clipboard()->setText(webLink(ref)); });
+    QAction* site = menu.addAction(L10n::text(Key::macOpenOnSite, lang));
+    site->setObjectName(QStringLiteral("vl.saved.menu.site"));
+    connect(site, &QAction::triggered, this,
+            [this, ref] { QDesktopServices::openUrl(QUrl(webLink(ref))); });
+    menu.addSeparator();
+    QAction* remove = menu.addAction(L10n::text(Key::macRemove, lang));
+    remove->setObjectName(QStringLiteral("vl.saved.menu.remove"));
+    connect(remove, &QAction::triggered, this, &SavedScreen::removeSelected);
 }
 
 void SavedScreen::removeSelected()

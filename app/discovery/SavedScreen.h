@@ -4,6 +4,7 @@
 
 class QLabel;
 class QListWidget;
+class QMenu;
 class QStackedWidget;
 
 namespace vl {
@@ -24,6 +25,9 @@ private:
     void rebuild();
     void retext();
     void removeSelected();
+    void open(const QString& ref);
+    QString webLink(const QString& ref) const;
+    void fillMenu(QMenu& menu, const QString& ref, const QString& title);
 
     AppContext& m_context;
     QLabel* m_title = nullptr;

@@ -2,9 +2,13 @@
 
 #include "app/identity/RecoveryCodesNotice.h"
 #include "app/kit/Theme.h"
+#include "app/platform/QrImage.h"
 #include "app/shell/AppState.h"
+#include "core/identity/TotpKey.h"
 #include "core/l10n/L10n.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -141,12 +145,21 @@ CandidateGateView::CandidateGateView(CandidateAuth& auth, AppState& appState,
     m_secret = label(m_steps, "vl.gate.secret", "key");
     m_secret->setWordWrap(false);
     m_secret->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // The same key as a code the authenticator's camera reads.
+    m_qr = new QLabel(m_steps);
+    m_qr->setObjectName(QStringLiteral("vl.gate.qr"));
+    m_copySecret = button(m_steps, "vl.gate.copySecret", "quiet");
+    connect(m_copySecret, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(m_gate.totpSecret()); });
     m_thenCode = label(m_steps, "vl.gate.thenCode", "caption");
     m_totpCode = field(m_steps, "vl.gate.totpCode");
     m_totpCode->setPlaceholderText(QStringLiteral("000000"));
     m_totpContinue = button(m_steps, "vl.gate.totpContinue", "primary");
     totp->addWidget(m_secretHint);
+    // The code above the key: side by side they would not fit the sheet's width on one line.
+    totp->addWidget(m_qr, 0, Qt::AlignLeft);
     totp->addWidget(m_secret);
+    totp->addWidget(m_copySecret, 0, Qt::AlignLeft);
     totp->addWidget(m_thenCode);
     totp->addWidget(m_totpCode);
     totp->addWidget(m_totpContinue);
@@ -239,7 +252,19 @@ void CandidateGateView::retext()
     m_secretHint->setText(text(Key::candSecretHint));
     m_thenCode->setText(text(Key::candThenCode));
     m_totpContinue->setText(text(Key::candContinue));
+    m_copySecret->setText(text(Key::msgCopy));
     refresh();
+}
+
+// Each new step puts the cursor where the person types next.
+void CandidateGateView::focusStep(CandidateGate::Step step)
+{
+    if (m_focusedStep == step)
+        return;
+    m_focusedStep = step;
+    QLineEdit* const fields[] = {m_email, m_code, nullptr, m_factorCode, m_totpCode};
+    if (QLineEdit* next = fields[int(step)])
+        next->setFocus(Qt::OtherFocusReason);
 }
 
 void CandidateGateView::refresh()
@@ -265,7 +290,15 @@ void CandidateGateView::refresh()
     m_enrollHeading->setText(
         L10n::text(m_gate.mailOnly() ? L10n::Key::candFactorOptional : L10n::Key::candFactorEnroll,
                    m_appState.lang()));
-    m_secret->setText(m_gate.groupedTotpSecret());
+    if (m_secret->text() != m_gate.groupedTotpSecret()) {
+        m_secret->setText(m_gate.groupedTotpSecret());
+        const QPixmap code = m_gate.totpSecret().isEmpty()
+                                 ? QPixmap()
+                                 : QPixmap::fromImage(qrImage(otpauthUri(m_gate.totpSecret()), 4));
+        m_qr->setPixmap(code);
+        m_qr->setFixedSize(code.size());
+    }
+    focusStep(step);
     if (m_email->text() != m_gate.email)
         m_email->setText(m_gate.email);
     for (QLineEdit* box : {m_code, m_factorCode, m_totpCode}) {

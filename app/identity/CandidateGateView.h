@@ -3,6 +3,7 @@
 #include "app/identity/CandidateGate.h"
 
 #include <QWidget>
+#include <optional>
 
 class QLabel;
 class QLineEdit;
@@ -27,6 +28,7 @@ public:
 private:
     void retext();
     void refresh();
+    void focusStep(CandidateGate::Step step);
 
     CandidateAuth& m_auth;
     AppState& m_appState;
@@ -65,12 +67,15 @@ private:
     // totpEnroll
     QLabel* m_secretHint;
     QLabel* m_secret;
+    QLabel* m_qr;
+    QPushButton* m_copySecret;
     QLabel* m_thenCode;
     QLineEdit* m_totpCode;
     QPushButton* m_totpContinue;
 
     QLabel* m_error;
     QProgressBar* m_busy;
+    std::optional<CandidateGate::Step> m_focusedStep;
 };
 
 } // namespace vl

@@ -19,11 +19,14 @@ public:
 
 private:
     void refresh();
+    void saveToFile();
 
     CandidateAuth& m_auth;
     AppState& m_appState;
     QLabel* m_lead;
     QLabel* m_codes;
+    QPushButton* m_copy;
+    QPushButton* m_saveFile;
     QPushButton* m_done;
 };
 

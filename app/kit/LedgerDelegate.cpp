@@ -14,10 +14,6 @@ namespace {
 
 using namespace palette;
 
-const QColor gold(0x9a, 0x6b, 0x0c);
-const QColor goldPaper(0xfb, 0xf1, 0xdc);
-const QColor freshPaper(0xdf, 0xf2, 0xee);
-
 // A rounded tag drawn from the right edge leftwards; returns the new right edge.
 int drawTag(QPainter* painter, int right, int centerY, const QString& text, const QColor& fg,
             const QColor& bg)
@@ -75,13 +71,13 @@ void LedgerDelegate::paintHead(QPainter* painter, const QStyleOptionViewItem& op
     font.setCapitalization(QFont::AllUppercase);
     font.setLetterSpacing(QFont::PercentageSpacing, 104);
     painter->setFont(font);
-    painter->setPen(muted);
+    painter->setPen(muted());
     const QString text = index.data(LedgerModel::HeadTextRole).toString();
     const QRect textRect = rect.adjusted(0, 12, 0, 0);
     painter->drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter, text);
     if (!index.data(LedgerModel::PinnedHeadRole).toBool()) {
         const int used = QFontMetrics(font).horizontalAdvance(text);
-        painter->setPen(accent);
+        painter->setPen(accent());
         painter->drawText(textRect.adjusted(used + 8, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                           QString::number(index.data(LedgerModel::HeadCountRole).toInt()));
     }
@@ -98,12 +94,12 @@ void LedgerDelegate::paintJob(QPainter* painter, const QStyleOptionViewItem& opt
     painter->save();
     const QRect rect = option.rect;
     if (option.state & QStyle::State_Selected) {
-        painter->fillRect(rect, selected);
-        painter->fillRect(QRect(rect.left(), rect.top() + 8, 3, rect.height() - 16), accent);
+        painter->fillRect(rect, selected());
+        painter->fillRect(QRect(rect.left(), rect.top() + 8, 3, rect.height() - 16), accent());
     } else if (option.state & QStyle::State_MouseOver) {
-        painter->fillRect(rect, hover);
+        painter->fillRect(rect, hover());
     }
-    painter->setPen(rule);
+    painter->setPen(rule());
     painter->drawLine(rect.left() + 18, rect.bottom(), rect.right() - 18, rect.bottom());
 
     const QRect content = rect.adjusted(18, 10, -18, -10);
@@ -111,19 +107,19 @@ void LedgerDelegate::paintJob(QPainter* painter, const QStyleOptionViewItem& opt
     const int titleCenter = content.top() + 11;
     const QString direct = index.data(LedgerModel::DirectTagRole).toString();
     if (!direct.isEmpty())
-        right = drawTag(painter, right, titleCenter, direct, QColor(Qt::white), accent);
+        right = drawTag(painter, right, titleCenter, direct, current().onAccent, accent());
     if (job->featured)
-        right = drawTag(painter, right, titleCenter, L10n::text(L10n::Key::featured, m_lang), gold,
-                        goldPaper);
+        right = drawTag(painter, right, titleCenter, L10n::text(L10n::Key::featured, m_lang),
+                        current().gold, current().goldPaper);
     if (index.data(LedgerModel::FreshRole).toBool())
         right = drawTag(painter, right, titleCenter, L10n::text(L10n::Key::bdNewTag, m_lang),
-                        accent, freshPaper);
+                        accent(), current().freshPaper);
 
     QFont titleFont = option.font;
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.08);
     titleFont.setWeight(QFont::DemiBold);
     painter->setFont(titleFont);
-    painter->setPen(ink);
+    painter->setPen(ink());
     const QRect titleRect(content.left(), content.top(), right - content.left(), 22);
     painter->drawText(
         titleRect, Qt::AlignLeft | Qt::AlignVCenter,
@@ -139,14 +135,14 @@ void LedgerDelegate::paintJob(QPainter* painter, const QStyleOptionViewItem& opt
         QFont payFont = small;
         payFont.setWeight(QFont::DemiBold);
         painter->setFont(payFont);
-        painter->setPen(accent);
+        painter->setPen(accent());
         payWidth = QFontMetrics(payFont).horizontalAdvance(pay) + 12;
         painter->drawText(lineRect, Qt::AlignRight | Qt::AlignVCenter, pay);
         painter->setFont(small);
     }
     const QString city = m_cityLabel ? m_cityLabel(job->city) : job->city;
     const QString where = job->employerName + QStringLiteral("  ·  ") + city;
-    painter->setPen(muted);
+    painter->setPen(muted());
     painter->drawText(lineRect.adjusted(0, 0, -payWidth, 0), Qt::AlignLeft | Qt::AlignVCenter,
                       metrics.elidedText(where, Qt::ElideRight, lineRect.width() - payWidth));
     painter->restore();

@@ -3,19 +3,61 @@
 #include <QColor>
 
 // The colours of the presentation kit: ink and paper, the quiet greys of the sidebar and
-// borders, and one teal accent. The theme and the painted rows take them from here.
+// borders, and one teal accent, in a light and a dark variant. The theme's style sheet and the
+// painted rows both read the current variant, so a switch reaches everything at once.
 namespace vl::palette {
 
-inline const QColor ink{0x1d, 0x23, 0x29};
-inline const QColor muted{0x5f, 0x6b, 0x76};
-inline const QColor paper{0xff, 0xff, 0xff};
-inline const QColor side{0xf3, 0xf5, 0xf7};
-inline const QColor border{0xe1, 0xe6, 0xea};
-inline const QColor field{0xd3, 0xda, 0xe0};
-inline const QColor accent{0x1e, 0x7f, 0x74};
-// Rows of a list: the chosen one, the one under the pointer, and the rule between them.
-inline const QColor selected{0xe8, 0xf4, 0xf1};
-inline const QColor hover{0xf6, 0xf8, 0xf9};
-inline const QColor rule{0xee, 0xf1, 0xf3};
+struct Colors {
+    QColor ink, muted, paper, side, border, field, accent;
+    // Rows of a list: the chosen one, the one under the pointer, and the rule between them.
+    QColor selected, hover, rule;
+    // Text and marks drawn on the accent.
+    QColor onAccent, onAccentDisabled;
+    QColor accentHover, accentDeep, accentDisabled;
+    QColor danger, dangerPaper, dangerBorder;
+    // Accent-tinted papers: the avatar, the dismiss button under the pointer, the busy track,
+    // the banner's edge, the fresh tag and the sidebar's chosen section.
+    QColor tint, tintHover, track, bannerBorder, freshPaper, chosen;
+    QColor pressed, disabled, raised, raisedHover;
+    // The featured tag.
+    QColor gold, goldPaper;
+};
+
+const Colors& light();
+const Colors& dark();
+
+// The variant in use; the theme switches it before it restyles the application.
+const Colors& current();
+void useDark(bool dark);
+bool isDark();
+
+inline const QColor& ink()
+{
+    return current().ink;
+}
+inline const QColor& muted()
+{
+    return current().muted;
+}
+inline const QColor& paper()
+{
+    return current().paper;
+}
+inline const QColor& accent()
+{
+    return current().accent;
+}
+inline const QColor& selected()
+{
+    return current().selected;
+}
+inline const QColor& hover()
+{
+    return current().hover;
+}
+inline const QColor& rule()
+{
+    return current().rule;
+}
 
 } // namespace vl::palette

@@ -6,16 +6,6 @@
 
 namespace vl {
 
-namespace {
-
-using palette::accent;
-using palette::ink;
-using palette::muted;
-const QColor chosen(0xdd, 0xee, 0xea);
-const QColor hover(0xe7, 0xeb, 0xef);
-
-} // namespace
-
 QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     return {option.rect.width(), index.data(GroupRole).toBool() ? 36 : 34};
@@ -33,7 +23,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
         font.setWeight(QFont::Bold);
         font.setCapitalization(QFont::AllUppercase);
         painter->setFont(font);
-        painter->setPen(muted);
+        painter->setPen(palette::muted());
         painter->drawText(option.rect.adjusted(22, 10, -12, 0), Qt::AlignLeft | Qt::AlignVCenter,
                           text);
         painter->restore();
@@ -43,11 +33,11 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const QRect row = option.rect.adjusted(10, 1, -10, -1);
     if (option.state & QStyle::State_Selected) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(chosen);
+        painter->setBrush(palette::current().chosen);
         painter->drawRoundedRect(row, 8, 8);
     } else if (option.state & QStyle::State_MouseOver) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(hover);
+        painter->setBrush(palette::current().pressed);
         painter->drawRoundedRect(row, 8, 8);
     }
     QRect textRect = row.adjusted(12, 0, -10, 0);
@@ -61,10 +51,10 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
         const int width = std::max(metrics.horizontalAdvance(number) + 12, 20);
         const QRect pill(textRect.right() - width, row.center().y() - 10, width, 20);
         painter->setPen(Qt::NoPen);
-        painter->setBrush(accent);
+        painter->setBrush(palette::accent());
         painter->drawRoundedRect(pill, 10, 10);
         painter->setFont(font);
-        painter->setPen(Qt::white);
+        painter->setPen(palette::current().onAccent);
         painter->drawText(pill, Qt::AlignCenter, number);
         textRect.setRight(pill.left() - 6);
     }
@@ -72,7 +62,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     if (option.state & QStyle::State_Selected)
         font.setWeight(QFont::DemiBold);
     painter->setFont(font);
-    painter->setPen((option.state & QStyle::State_Selected) ? accent : ink);
+    painter->setPen((option.state & QStyle::State_Selected) ? palette::accent() : palette::ink());
     painter->drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter,
                       QFontMetrics(font).elidedText(text, Qt::ElideRight, textRect.width()));
     painter->restore();

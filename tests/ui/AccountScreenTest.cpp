@@ -1,4 +1,4 @@
-#include "app/shell/AccountScreen.h"
+#include "app/window/AccountScreen.h"
 
 #include "tests/support/TestContext.h"
 #include "tests/ui/UrlCatcher.h"

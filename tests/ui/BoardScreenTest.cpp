@@ -5,14 +5,16 @@
 #include "app/discovery/SavedScreen.h"
 #include "app/kit/SidebarDelegate.h"
 #include "app/shell/InstanceChannel.h"
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 #include "core/l10n/L10n.h"
+#include "core/navigation/WebLink.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
 #include "tests/ui/Screenshot.h"
 #include "tests/ui/UrlCatcher.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
@@ -25,6 +27,7 @@
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -193,13 +196,53 @@ TEST_F(BoardScreenTest, SearchPickOpenStarAndFindItUnderSaved)
     EXPECT_TRUE(rows->item(0)->text().startsWith(context->router.readingJob()->title));
     saveScreenshot(&window, QStringLiteral("saved-en"));
 
-    // Removing the row empties the list; opening a saved row goes back to the board.
+    // Opening a saved row shows it on the board, in the detail pane.
+    const QString title = context->router.readingJob()->title;
+    context->router.selectJob(std::nullopt);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !context->router.readingJob(); }, 2000));
+    Q_EMIT rows->itemActivated(rows->item(0));
+    EXPECT_EQ(context->nav.section(), MacSection::vacancies);
+    EXPECT_TRUE(window.board()->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return context->router.readingJob().has_value(); }, 5000));
+    EXPECT_EQ(label("vl.detail.title")->text(), title);
+    selectSection(MacSection::saved);
+
+    // Removing the row empties the list.
     context->saved.toggle(*context->router.readingJob());
     context->saved.toggle(*context->router.readingJob());
     rows->setCurrentRow(0);
     QTest::keyClick(rows, Qt::Key_Delete);
     EXPECT_TRUE(context->saved.entries().empty());
     EXPECT_TRUE(part(window, QStringLiteral("vl.saved.empty"))->isVisible());
+}
+
+TEST_F(BoardScreenTest, ASavedRowsMenuOpensCopiesAndRemoves)
+{
+    action("nextListing")->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return context->router.readingJob().has_value(); }, 5000));
+    const JobDetail job = *context->router.readingJob();
+    context->saved.toggle(job);
+    selectSection(MacSection::saved);
+    auto* rows = part<QListWidget>(window, QStringLiteral("vl.saved.list"));
+    ASSERT_EQ(rows->count(), 1);
+    rows->setCurrentRow(0);
+
+    // The menu runs modally; each round picks one entry as soon as it shows.
+    const auto pick = [&](const char* name) {
+        QTimer::singleShot(0, [&, name] {
+            auto* menu = QApplication::activePopupWidget();
+            ASSERT_NE(menu, nullptr);
+            auto* entry = menu->findChild<QAction*>(QString::fromLatin1(name));
+            ASSERT_NE(entry, nullptr);
+            entry->trigger();
+            menu->close();
+        });
+        Q_EMIT rows->customContextMenuRequested(rows->visualItemRect(rows->item(0)).center());
+    };
+    pick("vl.saved.menu.copyLink");
+    EXPECT_EQ(vacancyRefOfWebLink(QUrl(QGuiApplication::clipboard()->text())), job.ref);
+    pick("vl.saved.menu.remove");
+    EXPECT_FALSE(context->saved.contains(job.ref));
 }
 
 TEST_F(BoardScreenTest, KeysAndMenusMoveThroughListingsAndPlaces)
@@ -391,4 +434,89 @@ TEST_F(BoardScreenTest, ALinkFromASecondLaunchOpensTheListingHere)
               QStringLiteral("http://localhost:4321/en/vacancy/vl30007-x"));
     EXPECT_FALSE(
         InstanceChannel(QStringLiteral("http://elsewhere.example")).handOver(QStringLiteral("x")));
+}
+
+TEST_F(BoardScreenTest, ReloadsShowTheirWorkAndRetryBringsBackListAndListing)
+{
+    auto* states = part<QStackedWidget>(window, QStringLiteral("vl.board.states"));
+    auto* detailStates = part(window, QStringLiteral("vl.detail"))->findChild<QStackedWidget*>();
+    auto* failLine = part(window, QStringLiteral("vl.board.failLine"));
+    auto* reloading = part(window, QStringLiteral("vl.board.reloading"));
+    action("nextListing")->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return context->router.readingJob().has_value(); }, 5000));
+    const QString ref = *context->router.selectedJob();
+    const QString jobsPath = QStringLiteral("/api/app/v1/jobs");
+    const QString detailPath = jobsPath + QLatin1Char('/') + ref;
+    const auto fault = [&](const QString& path, const char* rest) {
+        sandbox.devPost(QStringLiteral("/dev/fault"),
+                        QStringLiteral(R"({"method":"GET","path":"%1",%2})")
+                            .arg(path, QString::fromLatin1(rest))
+                            .toUtf8());
+    };
+
+    // A slow reload keeps the rows with a quiet bar; the listing on its way never shows the hint.
+    fault(jobsPath, R"("mode":"slow","delay":0.6)");
+    fault(detailPath, R"("mode":"slow","delay":0.6)");
+    action("refresh")->trigger();
+    window.board()->findChild<JobDetailView*>()->reload();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().loading(); }, 2000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.list"));
+    EXPECT_TRUE(reloading->isVisible());
+    EXPECT_FALSE(label("vl.detail.pick")->isVisible());
+    EXPECT_TRUE(part(window, QStringLiteral("vl.detail.busy"))->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loaded(); }, 5000));
+    EXPECT_FALSE(reloading->isVisible());
+
+    // Both fail: the board shows its error, and so does the pane.
+    fault(jobsPath, R"("mode":"status","status":500)");
+    fault(detailPath, R"("mode":"status","status":500)");
+    action("refresh")->trigger();
+    window.board()->findChild<JobDetailView*>()->reload();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().failed() && !board().loading(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return detailStates->currentWidget()->objectName() == "vl.detail.error"; }, 5000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.error"));
+
+    // Retry asks for both again.
+    fault(jobsPath, R"("mode":"none")");
+    fault(detailPath, R"("mode":"none")");
+    part<QPushButton>(window, QStringLiteral("vl.board.retry"))->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loaded() && !board().failed(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return detailStates->currentWidget()->objectName() != "vl.detail.error"; }, 5000));
+    EXPECT_EQ(label("vl.detail.title")->text(), context->router.readingJob()->title);
+
+    // A failed next page keeps the rows under one line with Retry, which asks for that page.
+    fault(jobsPath, R"("mode":"status","status":500)");
+    const size_t firstPage = board().items().size();
+    list()->scrollToBottom();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().failed() && !board().loading(); }, 5000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.list"));
+    EXPECT_EQ(board().items().size(), firstPage);
+    EXPECT_TRUE(failLine->isVisible());
+    saveScreenshot(&window, QStringLiteral("board-next-page-failed-en"));
+    fault(jobsPath, R"("mode":"none")");
+    part<QPushButton>(window, QStringLiteral("vl.board.failRetry"))->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return board().items().size() > firstPage; }, 5000));
+    EXPECT_EQ(board().page(), 2);
+    EXPECT_FALSE(failLine->isVisible());
+}
+
+TEST_F(BoardScreenTest, AFirstLoadShowsItsWorkAndNoCountBeforeTheAnswer)
+{
+    sandbox.devPost(QStringLiteral("/dev/fault"),
+                    R"({"method":"GET","path":"/api/app/v1/jobs","mode":"slow","delay":0.6})");
+    MainWindow second(*context);
+    second.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&second));
+    auto* states = part<QStackedWidget>(second, QStringLiteral("vl.board.states"));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.loading"));
+    EXPECT_FALSE(part(second, QStringLiteral("vl.board.headline"))->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            return !second.board()->model().items().empty() && !second.board()->model().loading();
+        },
+        5000));
+    EXPECT_EQ(states->currentWidget()->objectName(), QStringLiteral("vl.board.list"));
+    EXPECT_TRUE(part(second, QStringLiteral("vl.board.headline"))->isVisible());
 }

@@ -1,7 +1,7 @@
 #include "app/identity/CandidateGateView.h"
 
-#include "app/shell/AccountScreen.h"
-#include "app/shell/MainWindow.h"
+#include "app/window/AccountScreen.h"
+#include "app/window/MainWindow.h"
 #include "core/identity/TotpKey.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
@@ -9,12 +9,16 @@
 #include "tests/support/TotpCode.h"
 #include "tests/ui/Screenshot.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -62,7 +66,8 @@ protected:
 
     CandidateGateView* openGate()
     {
-        Q_EMIT part<QLabel>("vl.account.seekerSignIn")->linkActivated(QStringLiteral("seeker"));
+        part<QPushButton>("vl.account.signIn")->click();
+        part<QPushButton>("vl.door.work")->click();
         auto* gate = window->findChild<CandidateGateView*>();
         EXPECT_TRUE(gate && gate->isVisible());
         return gate;
@@ -97,6 +102,7 @@ TEST_F(GateView, ShowsEachStepInTurnAndGivesWayToTheAccountOnceSignedIn)
     part<QPushButton>("vl.gate.sendCode")->click();
     ASSERT_TRUE(settles(gate));
     EXPECT_TRUE(shown("vl.gate.code"));
+    EXPECT_EQ(gate->window()->focusWidget(), part<QLineEdit>("vl.gate.code"));
     EXPECT_TRUE(part<QLabel>("vl.gate.codeSent")->text().endsWith(email));
     EXPECT_FALSE(shown("vl.gate.error"));
 
@@ -114,13 +120,33 @@ TEST_F(GateView, ShowsEachStepInTurnAndGivesWayToTheAccountOnceSignedIn)
     ASSERT_TRUE(shown("vl.gate.secret"));
     const QString secret = gate->gate().totpSecret();
     EXPECT_EQ(part<QLabel>("vl.gate.secret")->text(), groupedSecret(secret));
+    EXPECT_EQ(gate->window()->focusWidget(), part<QLineEdit>("vl.gate.totpCode"));
+    QTest::qWait(50);
+    // The code stands clear of the key below it.
+    EXPECT_LE(part<QLabel>("vl.gate.qr")->geometry().bottom(),
+              part<QLabel>("vl.gate.secret")->geometry().top());
     saveScreenshot(window.get(), QStringLiteral("gate-totp-en"));
+
+    // The QR code beside the key reads back as the authenticator's link.
+    QTemporaryDir folder;
+    const QString shot = folder.filePath(QStringLiteral("qr.png"));
+    ASSERT_TRUE(part<QLabel>("vl.gate.qr")->pixmap().save(shot));
+    QProcess zbar;
+    zbar.start(QStringLiteral("zbarimg"), {QStringLiteral("--raw"), QStringLiteral("-q"), shot});
+    ASSERT_TRUE(zbar.waitForFinished(10000));
+    EXPECT_EQ(QString::fromUtf8(zbar.readAllStandardOutput()).trimmed(), otpauthUri(secret));
+    part<QPushButton>("vl.gate.copySecret")->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), secret);
 
     type("vl.gate.totpCode", totpCode(secret));
     part<QPushButton>("vl.gate.totpContinue")->click();
     ASSERT_TRUE(QTest::qWaitFor([this] { return context->candidate.signedIn(); }, 10000));
     EXPECT_TRUE(shown("vl.accountScreen"));
     EXPECT_TRUE(shown("vl.recoveryNotice"));
+    part<QPushButton>("vl.recoveryNotice.copy")->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              context->candidate.pendingRecovery()->join(u'\n'));
+    saveScreenshot(window.get(), QStringLiteral("gate-recovery-en"));
     EXPECT_EQ(part<QLabel>("vl.accountScreen.name")->text(), email);
     part<QPushButton>("vl.recoveryNotice.done")->click();
     EXPECT_FALSE(shown("vl.recoveryNotice"));

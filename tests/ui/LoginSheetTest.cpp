@@ -1,6 +1,6 @@
 #include "app/hiring/LoginSheet.h"
 
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
@@ -35,6 +35,7 @@ protected:
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         button("vl.account.signIn")->click();
+        button("vl.door.hiring")->click();
         sheet = window->findChild<LoginSheet*>();
         ASSERT_TRUE(sheet && sheet->isVisible());
     }

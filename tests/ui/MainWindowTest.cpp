@@ -1,7 +1,7 @@
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 
 #include "app/shell/QuitWhenSettled.h"
-#include "app/shell/UpdateRequiredScreen.h"
+#include "app/window/UpdateRequiredScreen.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
@@ -99,6 +99,9 @@ TEST(MainWindow, ALanguageSwitchRetextsTheWindowAndAnOpenSheet)
     saveScreenshot(&window, QStringLiteral("window-ka"));
 
     part<QPushButton>(window, "vl.account.signIn")->click();
+    ASSERT_TRUE(shown(window, "vl.door.work"));
+    saveScreenshot(&window, QStringLiteral("door-ka"));
+    part<QPushButton>(window, "vl.door.hiring")->click();
     auto* sheet = part<QDialog>(window, "vl.loginSheet");
     ASSERT_TRUE(sheet && sheet->isVisible());
     EXPECT_EQ(part<QLabel>(*sheet, "vl.loginSheet.subtitle")->text(),
@@ -125,6 +128,7 @@ TEST(MainWindow, ARefusedBuildSeesOnlyTheUpdateScreenWhichLeadsToTheStore)
     MainWindow window(*context);
     showAndWait(window);
     part<QPushButton>(window, "vl.account.signIn")->click();
+    part<QPushButton>(window, "vl.door.hiring")->click();
     ASSERT_TRUE(shown(window, "vl.loginSheet"));
 
     // The gate closes when config answers, over whatever the window was showing.

@@ -1,6 +1,7 @@
 #include "tests/ui/Screenshot.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QPainter>
@@ -24,7 +25,8 @@ QString saveScreenshot(QWidget* window, const QString& name)
             painter.drawPixmap(at, dialog->grab());
         }
     }
-    const QString folder = QDir::currentPath() + QStringLiteral("/screenshots");
+    const QString folder =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../screenshots"));
     QDir().mkpath(folder);
     const QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
     shot.save(path);

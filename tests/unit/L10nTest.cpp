@@ -29,7 +29,7 @@ bool hasWords(QString text)
 {
     static const QRegularExpression kept(QStringLiteral(
         "\\{[a-z0-9]+\\}|Velmora|WhatsApp|Telegram|Signal|Google|TOTP|Pro|CV|PDF|DOCX|DOC|PNG|"
-        "JPEG|JPG|WEBP|GIF|MB|macOS|ID"));
+        "JPEG|JPG|WEBP|GIF|MB|ID"));
     text.remove(kept);
     for (const QChar c : text) {
         if (c.isLetter())
@@ -161,7 +161,7 @@ TEST(L10nText, EnglishTextsAsWritten)
         {Key::idvInsert, QStringLiteral("Add <")},
         {Key::perMonth, QStringLiteral("/ month")},
         {Key::fyEmployerTitle, QStringLiteral("This is the job seeker's side")},
-        {Key::fySavedOnMac, QStringLiteral("Saved on this Mac")},
+        {Key::fySavedOnMac, QStringLiteral("Saved on this computer")},
         {Key::reportDanger, QStringLiteral("In danger right now? Call 112.")},
     };
     for (const auto& [key, english] : texts)
@@ -261,5 +261,16 @@ TEST(L10nMacVariant, DeviceWordedTextsSwapToTheDesktop)
         unchanged += L10n::macVariant(key) == key ? 1 : 0;
     EXPECT_EQ(unchanged, L10n::allKeys().size() - pairs.size());
     EXPECT_EQ(L10n::text(L10n::macVariant(Key::appsOnPhone), Lang::en),
-              QStringLiteral("Sent from this Mac"));
+              QStringLiteral("Sent from this computer"));
+}
+
+TEST(L10n, NoTextNamesAnotherPlatformOrItsVendor)
+{
+    static const QRegularExpression vendor(
+        QStringLiteral("\\bMac\\b|Mac-|macOS|Apple|App Store|iPhone|iCloud"));
+    for (const Key key : L10n::allKeys()) {
+        for (const Lang lang : allLangs)
+            EXPECT_FALSE(L10n::text(key, lang).contains(vendor))
+                << name(key) << " " << rawValue(lang).toStdString();
+    }
 }

@@ -1,18 +1,20 @@
-#include "app/shell/MainWindow.h"
+#include "app/window/MainWindow.h"
 
 #include "app/applying/ApplyingDialog.h"
 #include "app/discovery/BoardScreen.h"
 #include "app/discovery/SavedScreen.h"
 #include "app/hiring/LoginSheet.h"
-#include "app/kit/SidebarDelegate.h"
 #include "app/identity/CandidateGateView.h"
+#include "app/kit/SidebarDelegate.h"
 #include "app/kit/Theme.h"
-#include "app/shell/AccountMenu.h"
-#include "app/shell/AccountScreen.h"
 #include "app/shell/AppContext.h"
 #include "app/shell/BuildNumber.h"
-#include "app/shell/UpdateBanner.h"
-#include "app/shell/UpdateRequiredScreen.h"
+#include "app/window/AccountMenu.h"
+#include "app/window/AccountScreen.h"
+#include "app/window/DoorSheet.h"
+#include "app/window/SettingsWindow.h"
+#include "app/window/UpdateBanner.h"
+#include "app/window/UpdateRequiredScreen.h"
 #include "core/l10n/L10n.h"
 
 #include <QActionGroup>
@@ -20,6 +22,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
@@ -51,11 +54,14 @@ constexpr LanguageChoice languageChoices[] = {
 MainWindow::MainWindow(AppContext& context, QWidget* parent)
     : QMainWindow(parent)
     , m_context(context)
+    , m_toolkit(context.appState)
     , m_account(context.auth, context.candidate, context.preferences())
     , m_banner(context.taxonomy, context.preferences())
 {
     setObjectName(QStringLiteral("vl.main"));
     setWindowTitle(QStringLiteral("Velmora"));
+    setWindowIcon(QIcon::fromTheme(QStringLiteral("org.velmora.Velmora"),
+                                   QIcon(QStringLiteral(":/icons/org.velmora.Velmora.png"))));
     resize(1180, 820);
     setMinimumSize(720, 560);
 
@@ -72,8 +78,7 @@ MainWindow::MainWindow(AppContext& context, QWidget* parent)
     connect(&m_context.inbox, &InboxState::unreadChanged, this, &MainWindow::rebuildSections);
     connect(&m_context.nav, &MacNav::sectionChanged, this, &MainWindow::showSection);
     connect(&m_context.nav, &MacNav::sidebarShownChanged, this, [this] {
-        if (m_sidebar)
-            m_sidebar->setVisible(m_context.nav.sidebarShown());
+        showSidebar();
         retext();
     });
     connect(&m_context.router, &Router::readingJobChanged, this, &MainWindow::refreshListingMenu);
@@ -111,8 +116,7 @@ QWidget* MainWindow::buildShell()
             m_context.nav.setSection(*section);
     });
     auto* account = new AccountMenu(m_account, m_context.appState, sidebar);
-    connect(account, &AccountMenu::signInRequested, this, &MainWindow::openSignIn);
-    connect(account, &AccountMenu::seekerSignInRequested, this, [this] { openAccount(true); });
+    connect(account, &AccountMenu::doorRequested, this, &MainWindow::openDoor);
     connect(account, &AccountMenu::accountRequested, this, [this] { openAccount(false); });
     auto* sideLayout = new QVBoxLayout(sidebar);
     sideLayout->setContentsMargins(0, 0, 0, 0);
@@ -134,8 +138,6 @@ QWidget* MainWindow::buildShell()
     connect(m_board, &BoardScreen::signInRequested, this, &MainWindow::openSignIn);
     connect(m_board, &BoardScreen::firstPageDrawn, this, &MainWindow::firstPageDrawn);
     pages->addWidget(m_board);
-    m_saved = new SavedScreen(m_context, pages);
-    pages->addWidget(m_saved);
     // Sections whose screens come later show their name.
     auto* placeholderPage = new QWidget(pages);
     m_placeholder = new QLabel(placeholderPage);
@@ -160,6 +162,20 @@ QWidget* MainWindow::buildShell()
     return shell;
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    showSidebar();
+}
+
+void MainWindow::showSidebar()
+{
+    // Below this width the sidebar gives its room to the content, whatever the View menu says.
+    constexpr int sidebarWidth = 960;
+    if (m_sidebar)
+        m_sidebar->setVisible(m_context.nav.sidebarShown() && width() >= sidebarWidth);
+}
+
 void MainWindow::buildMenus()
 {
     // The application's own menu carries its name, as on every desktop that has one.
@@ -169,6 +185,11 @@ void MainWindow::buildMenus()
     m_checkUpdates->setObjectName(QStringLiteral("vl.action.checkUpdates"));
     connect(m_checkUpdates, &QAction::triggered, this,
             [this] { QDesktopServices::openUrl(QUrl(m_context.taxonomy.updatePage())); });
+    m_settings = m_appMenu->addAction(QString());
+    m_settings->setObjectName(QStringLiteral("vl.action.settings"));
+    m_settings->setShortcut(QKeySequence::Preferences);
+    m_settings->setMenuRole(QAction::PreferencesRole);
+    connect(m_settings, &QAction::triggered, this, &MainWindow::openSettings);
     m_appMenu->addSeparator();
     m_help = m_appMenu->addAction(QString());
     m_help->setObjectName(QStringLiteral("vl.action.help"));
@@ -265,6 +286,7 @@ void MainWindow::retext()
 {
     const Lang lang = m_context.appState.lang();
     m_checkUpdates->setText(L10n::text(Key::macCheckUpdates, lang));
+    m_settings->setText(L10n::text(Key::macGeneral, lang));
     m_quit->setText(L10n::text(Key::mbQuit, lang));
     m_languageMenu->setTitle(L10n::text(Key::language, lang));
     for (QAction* action : m_languages->actions())
@@ -314,6 +336,7 @@ void MainWindow::rebuildSections()
             return 0;
         }
     };
+    m_sections->setAccessibleName(L10n::text(Key::macGo, lang));
     m_showingSections = true;
     m_sections->clear();
     for (const MacSectionGroup& group : macSectionGroups(hiring)) {
@@ -349,10 +372,15 @@ void MainWindow::showSection()
     if (section == MacSection::vacancies) {
         m_pages->setCurrentWidget(m_board);
     } else if (section == MacSection::saved) {
+        // Built when first visited: most launches never open it.
+        if (!m_saved) {
+            m_saved = new SavedScreen(m_context, m_pages);
+            m_pages->addWidget(m_saved);
+        }
         m_pages->setCurrentWidget(m_saved);
     } else {
         m_placeholder->setText(L10n::text(titleKey(section), m_context.appState.lang()));
-        m_pages->setCurrentIndex(m_pages->count() - 1);
+        m_pages->setCurrentWidget(m_placeholder->parentWidget());
     }
     refreshListingMenu();
 }
@@ -371,6 +399,29 @@ void MainWindow::refreshListingMenu()
     m_openListing->setEnabled(reading);
     const bool saved = reading && m_context.saved.contains(job->ref);
     m_save->setText(L10n::text(saved ? Key::macUnsave : Key::macSave, lang));
+}
+
+void MainWindow::openDoor()
+{
+    if (m_gateClosed)
+        return;
+    auto* door = new DoorSheet(m_context.appState, !m_context.candidate.signedIn(),
+                               !m_context.auth.hiring(), this);
+    door->setAttribute(Qt::WA_DeleteOnClose);
+    connect(door, &DoorSheet::workChosen, this, [this] { openAccount(true); });
+    connect(door, &DoorSheet::hiringChosen, this, &MainWindow::openSignIn);
+    door->open();
+}
+
+void MainWindow::openSettings()
+{
+    if (!m_settingsWindow) {
+        m_settingsWindow = new SettingsWindow(m_context.appState, this);
+        m_settingsWindow->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_settingsWindow->show();
+    m_settingsWindow->raise();
+    m_settingsWindow->activateWindow();
 }
 
 void MainWindow::openOnSite(const QString& path)
@@ -407,6 +458,8 @@ void MainWindow::openAccount(bool signInFirst)
         m_accountSheet->close();
     m_accountSheet = new QDialog(this);
     m_accountSheet->setObjectName(QStringLiteral("vl.accountSheet"));
+    m_accountSheet->setWindowTitle(
+        L10n::text(L10n::Key::macYourAccount, m_context.appState.lang()));
     m_accountSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_accountSheet->setWindowModality(Qt::WindowModal);
     m_accountSheet->setFixedSize(480, 560);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shell/AccountMenuModel.h"
+#include "app/shell/ToolkitTranslator.h"
 #include "app/shell/UpdateBannerModel.h"
 
 #include <QMainWindow>
@@ -41,7 +42,11 @@ Q_SIGNALS:
     // The board's first rows have been painted.
     void firstPageDrawn();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void showSidebar();
     void buildMenus();
     QWidget* buildShell();
     void retext();
@@ -50,16 +55,20 @@ private:
     void showSection();
     void refreshListingMenu();
     void openOnSite(const QString& path);
+    void openSettings();
+    void openDoor();
     // The job seeker's sign-in in front of the account, or the account itself.
     void openAccount(bool signInFirst);
 
     AppContext& m_context;
+    ToolkitTranslator m_toolkit;
     AccountMenuModel m_account;
     UpdateBannerModel m_banner;
     QStackedWidget* m_root = nullptr;
     QMenu* m_appMenu = nullptr;
     QMenu* m_languageMenu = nullptr;
     QAction* m_checkUpdates = nullptr;
+    QAction* m_settings = nullptr;
     QAction* m_quit = nullptr;
     QMenu* m_listingMenu = nullptr;
     QMenu* m_goMenu = nullptr;
@@ -91,6 +100,7 @@ private:
     QActionGroup* m_languages = nullptr;
     QPointer<LoginSheet> m_loginSheet;
     QPointer<QDialog> m_accountSheet;
+    QPointer<QDialog> m_settingsWindow;
     bool m_gateClosed = false;
 };
 

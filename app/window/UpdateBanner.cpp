@@ -1,4 +1,4 @@
-#include "app/shell/UpdateBanner.h"
+#include "app/window/UpdateBanner.h"
 
 #include "app/kit/Theme.h"
 #include "app/shell/AppState.h"

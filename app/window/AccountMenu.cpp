@@ -1,4 +1,4 @@
-#include "app/shell/AccountMenu.h"
+#include "app/window/AccountMenu.h"
 
 #include "app/kit/Theme.h"
 #include "app/shell/AccountMenuModel.h"
@@ -89,12 +89,12 @@ AccountMenu::AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* p
     layout->addWidget(m_seekerSignIn);
     layout->addWidget(m_signOut, 0, Qt::AlignLeft);
 
-    connect(m_signIn, &QPushButton::clicked, this, &AccountMenu::signInRequested);
+    connect(m_signIn, &QPushButton::clicked, this, &AccountMenu::doorRequested);
     connect(m_signOut, &QPushButton::clicked, this, [this] {
         if (const auto entry = m_model.employerSignOut())
             confirmSignOut(*entry);
     });
-    connect(m_seekerSignIn, &QLabel::linkActivated, this, &AccountMenu::seekerSignInRequested);
+    connect(m_seekerSignIn, &QLabel::linkActivated, this, &AccountMenu::doorRequested);
     connect(m_menu, &QMenu::aboutToShow, this, &AccountMenu::fillMenu);
     connect(&m_model, &AccountMenuModel::changed, this, &AccountMenu::retext);
     connect(&m_appState, &AppState::langChanged, this, &AccountMenu::retext);
@@ -117,17 +117,23 @@ void AccountMenu::retext()
     else
         m_role->setText(role ? L10n::text(*role, lang) : QString());
     m_role->setVisible(signedOut || role.has_value());
+    // Nobody signed in: one door to both sides. One side signed in: a quiet way to the other.
     m_signIn->setText(L10n::text(L10n::Key::signInTitle, lang));
-    m_signIn->setVisible(m_model.offersEmployerSignIn());
+    m_signIn->setVisible(signedOut);
     const auto signOut = m_model.employerSignOut();
     m_signOut->setText(signOut ? L10n::text(*signOut, lang) : QString());
     m_signOut->setVisible(signOut.has_value());
-    m_seekerSignIn->setText(QStringLiteral("<a href=\"velmora:seeker\" style=\"color:#1e7f74; "
-                                           "text-decoration:none\">") +
-                            L10n::text(L10n::Key::fySignInSeeker, lang).toHtmlEscaped() +
-                            QStringLiteral("</a>"));
-    m_seekerSignIn->setVisible(m_model.offersSeekerSignIn());
+    const bool otherSide =
+        !signedOut && (m_model.offersSeekerSignIn() || m_model.offersEmployerSignIn());
+    const QString other = L10n::text(
+        m_model.offersSeekerSignIn() ? L10n::Key::fySignInSeeker : L10n::Key::signInTitle, lang);
+    m_seekerSignIn->setText(
+        QStringLiteral("<a href=\"velmora:door\" style=\"text-decoration:none\">") +
+        other.toHtmlEscaped() + QStringLiteral("</a>"));
+    m_seekerSignIn->setAccessibleName(other);
+    m_seekerSignIn->setVisible(otherSide);
     m_more->setToolTip(L10n::text(L10n::Key::macYourAccount, lang));
+    m_more->setAccessibleName(m_more->toolTip());
     m_more->setVisible(!signedOut);
     fillMenu();
     fitHeight();

@@ -1,4 +1,4 @@
-#include "app/shell/ReviewNotice.h"
+#include "app/window/ReviewNotice.h"
 
 #include "app/kit/Theme.h"
 #include "app/shell/AppState.h"

@@ -1,11 +1,11 @@
-#include "app/shell/AccountScreen.h"
+#include "app/window/AccountScreen.h"
 
 #include "app/applying/ApplyingDialog.h"
 #include "app/hiring/ProfileEditScreen.h"
 #include "app/kit/ConfirmRow.h"
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
-#include "app/shell/ReviewNotice.h"
+#include "app/window/ReviewNotice.h"
 #include "core/l10n/L10n.h"
 
 #include <QButtonGroup>

@@ -23,8 +23,8 @@ public:
     AccountMenu(AccountMenuModel& model, AppState& appState, QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    void signInRequested();
-    void seekerSignInRequested();
+    // The way in to whichever side is not signed in yet.
+    void doorRequested();
     void accountRequested();
 
 protected:

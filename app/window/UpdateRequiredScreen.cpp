@@ -1,4 +1,4 @@
-#include "app/shell/UpdateRequiredScreen.h"
+#include "app/window/UpdateRequiredScreen.h"
 
 #include "app/kit/Theme.h"
 #include "app/shell/AppState.h"
