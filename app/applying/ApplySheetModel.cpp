@@ -17,11 +17,6 @@ namespace {
 
 const QString phoneKey = QStringLiteral("vl.myPhone");
 
-QString now()
-{
-    return QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
-}
-
 } // namespace
 
 ApplySheetModel::ApplySheetModel(ApplyServices services, JobDetail job, QObject* parent)
@@ -146,7 +141,7 @@ QCoro::Task<> ApplySheetModel::succeed(CandidateCredential credential, std::opti
                              m_job.title,
                              m_job.employerName,
                              QStringLiteral("application"),
-                             now()};
+                             QDateTime::currentDateTimeUtc()};
         co_await store.add(std::move(entry));
     }
     if (!self)

@@ -52,7 +52,7 @@ QCoro::Task<> EnquirySheetModel::send()
                                  m_job.title,
                                  m_job.employerName,
                                  QStringLiteral("enquiry"),
-                                 QDateTime::currentDateTimeUtc().toString(Qt::ISODate)};
+                                 QDateTime::currentDateTimeUtc()};
             co_await store.add(std::move(entry));
         }
         if (!self)

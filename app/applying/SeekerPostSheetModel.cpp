@@ -52,7 +52,7 @@ QCoro::Task<> SeekerPostSheetModel::send()
         SeekerStore& store = m_services.seekerStore;
         co_await store.open();
         SeekerProfileEntry entry{result->ref, result->manageKey, form.headline.trimmed(),
-                                 QDateTime::currentDateTimeUtc().toString(Qt::ISODate)};
+                                 QDateTime::currentDateTimeUtc()};
         co_await store.add(std::move(entry));
         if (!self)
             co_return;

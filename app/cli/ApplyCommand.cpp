@@ -274,9 +274,7 @@ QCoro::Task<int> dispatch(AppContext& context, QStringList args)
 
 QCoro::Task<int> runApply(AppContext& context, QStringList args)
 {
-    const int code = co_await dispatch(context, std::move(args));
-    co_await context.cookies.settle();
-    co_return code;
+    co_return co_await dispatch(context, std::move(args));
 }
 
 } // namespace vl::cli
