@@ -183,8 +183,10 @@ void ApplySheet::refresh()
     m_check->setVisible(cv.has_value());
     m_check->show(m_model.check(), m_model.checking(), cv ? cv->filename : QString(),
                   m_model.lastCv().has_value(), lang);
-    if (m_questions)
+    if (m_questions) {
+        m_questions->setLang(lang);
         m_questions->markBad(m_model.badField());
+    }
     m_pool->setText(text(Key::poolOptOut));
     m_hint->setVisible(m_model.hint().has_value());
     if (m_model.hint())

@@ -45,6 +45,10 @@ QLineEdit {
 }
 QLineEdit:focus { border: 1px solid #1e7f74; }
 QLineEdit:read-only { background: #f3f5f7; color: #5f6b76; }
+QLineEdit[vlRole="error"], QPlainTextEdit[vlRole="error"], QComboBox[vlRole="error"],
+QDateEdit[vlRole="error"] {
+    border: 1px solid #a8261b; border-radius: 8px; background: #fdf1f0;
+}
 QPushButton {
     border: 1px solid #d3dae0; border-radius: 8px; padding: 7px 16px; background: #ffffff;
 }
