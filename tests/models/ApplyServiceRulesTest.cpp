@@ -10,7 +10,13 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkCookie>
+#include <QNetworkCookieJar>
+#include <QNetworkReply>
+#include <QNetworkRequest>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
@@ -383,4 +389,32 @@ TEST_F(ApplyServiceRulesTest, ASeekerPostGoesOutWithTheServicesNamesForEveryFiel
               QStringLiteral("Ten years at hotel desks."));
     EXPECT_EQ(body.value(QStringLiteral("city")), QStringLiteral("tbilisi"));
     EXPECT_EQ(body.value(QStringLiteral("type")), QStringLiteral("part"));
+}
+
+TEST_F(ApplyServiceRulesTest, ASessionTheServiceEndedSignsOutButKeepsTheForm)
+{
+    // The session ends on the service's side only: this computer still holds its cookie.
+    QNetworkAccessManager elsewhere;
+    QNetworkRequest logout(QUrl(sandbox.site() + QStringLiteral("/api/candidate/logout")));
+    logout.setHeader(QNetworkRequest::CookieHeader,
+                     QVariant::fromValue(context->session().cookieJar()->cookiesForUrl(
+                         QUrl(sandbox.site() + QStringLiteral("/api/app/v1/apply")))));
+    std::unique_ptr<QNetworkReply> ended(elsewhere.post(logout, QByteArray()));
+    QSignalSpy finished(ended.get(), &QNetworkReply::finished);
+    ASSERT_TRUE(finished.wait());
+    ASSERT_EQ(ended->error(), QNetworkReply::NoError);
+
+    ApplySheetModel sheet(services(), listings(1, plain).at(0));
+    sheet.name = QStringLiteral("Levan");
+    sheet.message = QStringLiteral("Hello");
+    ASSERT_TRUE(sheet.choose(writeFile(data.path(), QStringLiteral("cv.pdf"), pdfWithText("CV"))));
+    const CvFile cv = *sheet.cv();
+    wait(sheet.send());
+    EXPECT_FALSE(context->candidate.signedIn());
+    EXPECT_FALSE(sheet.email());
+    EXPECT_FALSE(sheet.sent());
+    EXPECT_FALSE(sheet.error());
+    EXPECT_EQ(sheet.cv(), cv);
+    EXPECT_EQ(sheet.name + sheet.message, QStringLiteral("LevanHello"));
+    EXPECT_TRUE(context->candidateStore.entries().empty());
 }
