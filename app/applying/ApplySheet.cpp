@@ -59,6 +59,9 @@ void ApplySheet::build()
     m_phone = new QLineEdit(form);
     m_message = new QPlainTextEdit(form);
     m_message->setFixedHeight(90);
+    m_name->setObjectName(QStringLiteral("applyName"));
+    m_phone->setObjectName(QStringLiteral("applyPhone"));
+    m_message->setObjectName(QStringLiteral("applyMessage"));
     m_name->setText(m_model.name);
     m_phone->setText(m_model.phone);
     auto* cvRow = new QHBoxLayout;

@@ -81,6 +81,8 @@ QWidget* ApplyQuestions::editor(const FormSpecDTO::Field& field)
         for (const QString& option : options) {
             auto* tick = new QCheckBox(option, column);
             layout->addWidget(tick);
+            if (!column->focusProxy())
+                column->setFocusProxy(tick);
             connect(tick, &QCheckBox::toggled, this, [this, id, options, chosen, option](bool on) {
                 if (on)
                     chosen->push_back(option);
