@@ -59,6 +59,9 @@ void ApplySheet::build()
     m_phone = new QLineEdit(form);
     m_message = new QPlainTextEdit(form);
     m_message->setFixedHeight(90);
+    m_name->setObjectName(QStringLiteral("applyName"));
+    m_phone->setObjectName(QStringLiteral("applyPhone"));
+    m_message->setObjectName(QStringLiteral("applyMessage"));
     m_name->setText(m_model.name);
     m_phone->setText(m_model.phone);
     auto* cvRow = new QHBoxLayout;
@@ -183,8 +186,10 @@ void ApplySheet::refresh()
     m_check->setVisible(cv.has_value());
     m_check->show(m_model.check(), m_model.checking(), cv ? cv->filename : QString(),
                   m_model.lastCv().has_value(), lang);
-    if (m_questions)
+    if (m_questions) {
+        m_questions->setLang(lang);
         m_questions->markBad(m_model.badField());
+    }
     m_pool->setText(text(Key::poolOptOut));
     m_hint->setVisible(m_model.hint().has_value());
     if (m_model.hint())

@@ -89,14 +89,11 @@ void SeekerPostSheet::refresh()
 {
     const Lang lang = m_state.lang();
     m_sub->setText(L10n::text(Key::seekerPostSub, lang));
-    for (const auto& [name, key] : lines) {
-        QLineEdit* line = m_lines[QString::fromLatin1(name)];
-        line->setPlaceholderText(L10n::text(key, lang));
-        Theme::setRole(line, m_model.badField() == QLatin1StringView(name) ? "error" : "plain");
-    }
+    for (const auto& [name, key] : lines)
+        m_lines[QString::fromLatin1(name)]->setPlaceholderText(L10n::text(key, lang));
     m_ageNote->setText(L10n::text(Key::agePrivateNote, lang));
     m_about->setPlaceholderText(L10n::text(Key::aboutField, lang));
-    Theme::setRole(m_about, m_model.badField() == QLatin1StringView("about") ? "error" : "plain");
+    markBadField();
     m_error->setVisible(m_model.error().has_value());
     m_error->setText(m_model.error().value_or(QString()));
     m_send->setText(L10n::text(Key::submitReview, lang));
@@ -105,6 +102,24 @@ void SeekerPostSheet::refresh()
     m_sent->setText(L10n::text(Key::seekerPosted, lang));
     m_close->setText(L10n::text(Key::close, lang));
     m_pages->setCurrentIndex(m_model.sent() ? 1 : 0);
+}
+
+// The refused field is framed, and takes the focus when the refusal is new.
+void SeekerPostSheet::markBadField()
+{
+    const auto& bad = m_model.badField();
+    QWidget* badWidget = nullptr;
+    for (auto& [name, line] : m_lines) {
+        Theme::setRole(line, bad == name ? "error" : "plain");
+        if (bad == name)
+            badWidget = line;
+    }
+    Theme::setRole(m_about, bad == QLatin1StringView("about") ? "error" : "plain");
+    if (bad == QLatin1StringView("about"))
+        badWidget = m_about;
+    if (badWidget && bad != m_marked)
+        badWidget->setFocus(Qt::OtherFocusReason);
+    m_marked = bad;
 }
 
 } // namespace vl

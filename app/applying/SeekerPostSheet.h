@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <map>
+#include <optional>
 
 class QLabel;
 class QLineEdit;
@@ -28,6 +29,7 @@ Q_SIGNALS:
 private:
     void refresh();
     void readFields();
+    void markBadField();
 
     SeekerPostSheetModel m_model;
     AppState& m_state;
@@ -41,6 +43,7 @@ private:
     QProgressBar* m_busy;
     QLabel* m_sent;
     QPushButton* m_close;
+    std::optional<QString> m_marked;
 };
 
 } // namespace vl

@@ -30,9 +30,8 @@ ApplyQuestions::ApplyQuestions(std::vector<FormSpecDTO::Field> fields, Lang lang
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* heading = make::label(this, "name");
-    heading->setText(L10n::text(L10n::Key::applyQuestions, lang));
-    layout->addWidget(heading);
+    m_heading = make::label(this, "name");
+    layout->addWidget(m_heading);
     for (const auto& field : m_fields) {
         auto* box = new QWidget(this);
         box->setObjectName(QStringLiteral("question-") + field.id);
@@ -46,21 +45,25 @@ ApplyQuestions::ApplyQuestions(std::vector<FormSpecDTO::Field> fields, Lang lang
             help->setText(field.help);
             column->addWidget(help);
         }
-        column->addWidget(editor(field, lang));
+        QWidget* input = editor(field);
+        column->addWidget(input);
         layout->addWidget(box);
         m_labels[field.id] = label;
+        m_editors[field.id] = input;
     }
+    setLang(lang);
 }
 
-QWidget* ApplyQuestions::editor(const FormSpecDTO::Field& field, Lang lang)
+QWidget* ApplyQuestions::editor(const FormSpecDTO::Field& field)
 {
     const QString id = field.id;
     if (field.type == QLatin1StringView("yesno") || field.type == QLatin1StringView("choice")) {
         auto* combo = new QComboBox(this);
         combo->addItem(QString(), QString());
         if (field.type == QLatin1StringView("yesno")) {
-            combo->addItem(L10n::text(L10n::Key::yes, lang), QStringLiteral("yes"));
-            combo->addItem(L10n::text(L10n::Key::no, lang), QStringLiteral("no"));
+            combo->addItem(QString(), QStringLiteral("yes"));
+            combo->addItem(QString(), QStringLiteral("no"));
+            m_yesNo.push_back(combo);
         } else {
             for (const QString& option : optionsOf(field))
                 combo->addItem(option, option);
@@ -78,6 +81,8 @@ QWidget* ApplyQuestions::editor(const FormSpecDTO::Field& field, Lang lang)
         for (const QString& option : options) {
             auto* tick = new QCheckBox(option, column);
             layout->addWidget(tick);
+            if (!column->focusProxy())
+                column->setFocusProxy(tick);
             connect(tick, &QCheckBox::toggled, this, [this, id, options, chosen, option](bool on) {
                 if (on)
                     chosen->push_back(option);
@@ -109,8 +114,23 @@ QWidget* ApplyQuestions::editor(const FormSpecDTO::Field& field, Lang lang)
 
 void ApplyQuestions::markBad(const std::optional<QString>& id)
 {
-    for (auto& [field, label] : m_labels)
-        Theme::setRole(label, id && *id == field ? "error" : "plain");
+    for (auto& [field, label] : m_labels) {
+        const bool bad = id && *id == field;
+        Theme::setRole(label, bad ? "error" : "plain");
+        Theme::setRole(m_editors[field], bad ? "error" : "plain");
+    }
+    if (id && id != m_marked && m_editors.contains(*id))
+        m_editors[*id]->setFocus(Qt::OtherFocusReason);
+    m_marked = id;
+}
+
+void ApplyQuestions::setLang(Lang lang)
+{
+    m_heading->setText(L10n::text(L10n::Key::applyQuestions, lang));
+    for (QComboBox* combo : m_yesNo) {
+        combo->setItemText(1, L10n::text(L10n::Key::yes, lang));
+        combo->setItemText(2, L10n::text(L10n::Key::no, lang));
+    }
 }
 
 } // namespace vl

@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 
+class QComboBox;
 class QLabel;
 
 namespace vl {
@@ -22,14 +23,20 @@ public:
     ApplyQuestions(std::vector<FormSpecDTO::Field> fields, Lang lang, Answer answer,
                    QWidget* parent = nullptr);
 
+    // Marks the field's label and editor; a field newly marked takes the focus.
     void markBad(const std::optional<QString>& id);
+    void setLang(Lang lang);
 
 private:
-    QWidget* editor(const FormSpecDTO::Field& field, Lang lang);
+    QWidget* editor(const FormSpecDTO::Field& field);
 
     std::vector<FormSpecDTO::Field> m_fields;
     Answer m_answer;
+    QLabel* m_heading;
     std::map<QString, QLabel*> m_labels;
+    std::map<QString, QWidget*> m_editors;
+    std::vector<QComboBox*> m_yesNo;
+    std::optional<QString> m_marked;
 };
 
 } // namespace vl

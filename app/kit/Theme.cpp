@@ -56,6 +56,10 @@ QComboBox QAbstractItemView {
     selection-color: @ink@;
 }
 QLineEdit:read-only { background: @side@; color: @muted@; }
+QLineEdit[vlRole="error"], QPlainTextEdit[vlRole="error"], QComboBox[vlRole="error"],
+QDateEdit[vlRole="error"] {
+    border: 1px solid @dangerBorder@; border-radius: 8px; background: @dangerPaper@;
+}
 QPushButton {
     border: 1px solid @field@; border-radius: 8px; padding: 7px 16px; background: @paper@;
 }

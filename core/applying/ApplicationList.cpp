@@ -50,7 +50,7 @@ std::vector<ApplicationRow> mergeApplications(const std::vector<CandidateEntry>&
                         .kind = entry.kind,
                         .jobTitle = entry.jobTitle,
                         .employerName = entry.employerName,
-                        .lastAt = entry.createdAt.toString(Qt::ISODateWithMs),
+                        .lastAt = entry.createdAt.toUTC().toString(Qt::ISODateWithMs),
                         .key = entry.key,
                         .stored = true});
     }

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace vl::test;
@@ -78,6 +79,30 @@ protected:
         for (const auto& item : listed.json[QStringLiteral("items")].toArray()) {
             if (item[QStringLiteral("ref")] == ref)
                 return item.toObject();
+        }
+        return {};
+    }
+
+    // The first listing of the board's pages whose detail passes the test, or an empty object.
+    QJsonObject firstListing(const std::function<bool(const QJsonObject&)>& fits,
+                             const QString& query = {}) const
+    {
+        for (int page = 1; page <= 10; ++page) {
+            const auto found =
+                run({QStringLiteral("api"), QStringLiteral("GET"), QStringLiteral("jobs"),
+                     QJsonDocument(QJsonObject{{"kind", "vacancy"}, {"page", page}, {"q", query}})
+                         .toJson(QJsonDocument::Compact)});
+            const QJsonArray items = found.json[QStringLiteral("items")].toArray();
+            if (items.isEmpty())
+                break;
+            for (const auto& item : items) {
+                const auto detail =
+                    run({QStringLiteral("api"), QStringLiteral("GET"), QStringLiteral("jobs/{ref}"),
+                         QStringLiteral(R"({"ref":"%1"})")
+                             .arg(item[QStringLiteral("ref")].toString())});
+                if (fits(detail.json))
+                    return detail.json;
+            }
         }
         return {};
     }
@@ -221,4 +246,69 @@ TEST_F(ApplyCliTest, ASeekerPostTakesAnEmployersMessageOnceLiveAndTheThreadShows
               QStringLiteral("Would you work nights at our hotel?"));
     EXPECT_EQ(activity.json[QStringLiteral("seekerProfiles")][0][QStringLiteral("status")],
               QStringLiteral("live"));
+}
+
+TEST_F(ApplyCliTest, TheEmployersQuestionsAreAnsweredByIdAndAWebOnlyListingSaysSo)
+{
+    const QJsonObject asking = firstListing([](const QJsonObject& job) {
+        if (!job[QStringLiteral("canApply")].toBool() || job[QStringLiteral("applyOnWeb")].toBool())
+            return false;
+        for (const auto& field : job[QStringLiteral("form")][QStringLiteral("fields")].toArray()) {
+            if (field[QStringLiteral("required")].toBool())
+                return true;
+        }
+        return false;
+    });
+    ASSERT_FALSE(asking.isEmpty());
+    const QJsonObject webOnly = firstListing(
+        [](const QJsonObject& job) { return job[QStringLiteral("applyOnWeb")].toBool(); },
+        QStringLiteral("kalata"));
+    ASSERT_FALSE(webOnly.isEmpty());
+    signInSeeker();
+
+    const QString cv = writeFile(files.path(), QStringLiteral("cv.pdf"), pdfWithText("Levan 2020"));
+    QStringList send{QStringLiteral("apply"),
+                     QStringLiteral("send"),
+                     asking[QStringLiteral("ref")].toString(),
+                     QStringLiteral("--name"),
+                     QStringLiteral("Levan"),
+                     QStringLiteral("--phone"),
+                     QStringLiteral("599112233"),
+                     QStringLiteral("--message"),
+                     QStringLiteral("Hello there"),
+                     QStringLiteral("--cv"),
+                     cv};
+    const QJsonArray fields = asking[QStringLiteral("form")][QStringLiteral("fields")].toArray();
+    QString firstRequired;
+    for (const auto& field : fields) {
+        if (field[QStringLiteral("required")].toBool() && firstRequired.isEmpty())
+            firstRequired = field[QStringLiteral("id")].toString();
+    }
+    const auto unanswered = run(send);
+    EXPECT_EQ(unanswered.exitCode, 1);
+    EXPECT_EQ(unanswered.json, (QJsonObject{{"error", "form"},
+                                            {"message", "Please answer this question."},
+                                            {"badField", firstRequired}}));
+
+    for (const auto& field : fields) {
+        const auto options = field[QStringLiteral("options")].toArray();
+        const QString answer =
+            options.isEmpty() ? QStringLiteral("2020-05-01") : options[0].toString();
+        send << QStringLiteral("--answer")
+             << field[QStringLiteral("id")].toString() + QLatin1Char('=') + answer;
+    }
+    const auto answered = run(send);
+    ASSERT_EQ(answered.exitCode, 0) << answered.out.toStdString() << answered.err.toStdString();
+    EXPECT_EQ(answered.json[QStringLiteral("sent")], true);
+    EXPECT_EQ(answered.json[QStringLiteral("ref")].toString().isEmpty(), false);
+
+    const auto refused = run({QStringLiteral("apply"), QStringLiteral("send"),
+                              webOnly[QStringLiteral("ref")].toString(), QStringLiteral("--name"),
+                              QStringLiteral("Levan"), QStringLiteral("--cv"), cv});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_EQ(refused.json,
+              (QJsonObject{
+                  {"error", "form"},
+                  {"message", "This employer asks their own questions, which open on the website."},
+                  {"webFormOnly", true}}));
 }

@@ -8,7 +8,17 @@ namespace vl::test {
 
 QByteArray pdfWithText(const QByteArray& text)
 {
-    const QByteArray stream = "BT /F1 11 Tf 72 720 Td (" + text + ") Tj ET";
+    // pdftotext drops what falls off the page, so long texts go on lines of their own.
+    QByteArray stream = "BT /F1 9 Tf 11 TL 36 760 Td";
+    QByteArray line;
+    for (const QByteArray& word : text.split(' ')) {
+        if (!line.isEmpty() && line.size() + word.size() > 90) {
+            stream += " (" + line + ") Tj T*";
+            line.clear();
+        }
+        line += (line.isEmpty() ? "" : " ") + word;
+    }
+    stream += " (" + line + ") Tj ET";
     const QList<QByteArray> objects{
         "<</Type/Catalog/Pages 2 0 R>>", "<</Type/Pages/Kids[3 0 R]/Count 1>>",
         "<</Type/Page/Parent 2 0 R/MediaBox[0 0 612 792]/Contents 4 0 R"

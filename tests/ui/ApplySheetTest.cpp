@@ -11,7 +11,9 @@
 
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -115,10 +117,28 @@ TEST_F(ApplyScreens, TheFormWaitsBehindTheGateThenShowsTheCheckAndMarksTheQuesti
     EXPECT_TRUE(
         part<QLabel>(sheet, "cvCheckScore")->text().contains(sheet.model().check()->bandLabel));
 
+    part<QLineEdit>(sheet, "applyName")->setText(QStringLiteral("Levan"));
+    part<QLineEdit>(sheet, "applyPhone")->setText(QStringLiteral("599112233"));
+    part<QPlainTextEdit>(sheet, "applyMessage")->setPlainText(QStringLiteral("Hello there"));
     part<QPushButton>(sheet, "applySend")->click();
     QTRY_VERIFY(part(sheet, "applyError")->isVisible());
+    EXPECT_EQ(part<QLabel>(sheet, "applyError")->text(), L10n::text(Key::errAnswers, Lang::en));
     EXPECT_FALSE(sheet.model().sent());
     EXPECT_EQ(sheet.model().cv()->filename, QStringLiteral("cv.pdf"));
+    const auto bad = sheet.model().badField();
+    ASSERT_TRUE(bad);
+    QWidget* question = sheet.findChild<QWidget*>(QStringLiteral("question-") + *bad);
+    ASSERT_TRUE(question);
+    EXPECT_TRUE(question->isAncestorOf(sheet.focusWidget()));
+    EXPECT_EQ(sheet.focusWidget()->property("vlRole"), QStringLiteral("error"));
+
+    // The questions' own words follow a change of language while the sheet is open.
+    context->appState.setLang(Lang::ka);
+    bool reworded = false;
+    for (auto* label : sheet.findChildren<QLabel*>())
+        reworded |=
+            label->isVisible() && label->text() == L10n::text(Key::applyQuestions, Lang::ka);
+    EXPECT_TRUE(reworded);
 }
 
 TEST_F(ApplyScreens, ScreenshotsOfTheSheetAndMyApplicationsInEveryLanguage)

@@ -82,13 +82,13 @@ TEST(ChatItem, CallsStandBeforeTheFirstMessageNotOlderThanThem)
 
 TEST(ApplicationList, MergesByRefWithTheServicesWordsAndTheStoredKeyNewestFirst)
 {
+    const auto utc = [](const char* at) {
+        return QDateTime::fromString(QString::fromLatin1(at), Qt::ISODate);
+    };
     const std::vector<CandidateEntry> stored{
-        {"R2", "key2", "Old title", "Old employer", "application",
-         QDateTime::fromString(QStringLiteral("2026-03-05T09:00:00Z"), Qt::ISODate)},
-        {"R9", "key9", "Device only", "E9", "enquiry",
-         QDateTime::fromString(QStringLiteral("2026-03-03T09:00:00Z"), Qt::ISODate)},
-        {"R1", "key1", "T1", "E1", "application",
-         QDateTime::fromString(QStringLiteral("2026-03-01T09:00:00Z"), Qt::ISODate)}};
+        {"R2", "key2", "Old title", "Old employer", "application", utc("2026-03-05T09:00:00Z")},
+        {"R9", "key9", "Device only", "E9", "enquiry", utc("2026-03-03T09:00:00Z")},
+        {"R1", "key1", "T1", "E1", "application", utc("2026-03-01T09:00:00Z")}};
     std::vector<MyActivityPayload::App> reported(2);
     reported[0].ref = QStringLiteral("R1");
     reported[0].lastAt = QStringLiteral("2026-03-06T09:00:00Z");
