@@ -1,10 +1,13 @@
 #include "app/shell/InstanceChannel.h"
 
+#include "core/navigation/HandOverReader.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <memory>
 
 namespace vl {
 
@@ -50,9 +53,13 @@ bool InstanceChannel::listen()
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* socket = m_server->nextPendingConnection()) {
             connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-            connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-                while (socket->canReadLine())
-                    Q_EMIT linkReceived(QString::fromUtf8(socket->readLine()).trimmed());
+            auto reader = std::make_shared<HandOverReader>();
+            connect(socket, &QLocalSocket::readyRead, this, [this, socket, reader] {
+                const QStringList links = reader->feed(socket->readAll());
+                for (const QString& link : links)
+                    Q_EMIT linkReceived(link);
+                if (reader->overflowed())
+                    socket->abort();
             });
         }
     });
