@@ -21,6 +21,7 @@
 #include <limits>
 #include <map>
 #include <optional>
+#include <string>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -31,13 +32,16 @@ namespace vl::json {
 template <class Owner, class Member>
 struct Field {
     const char* key;
+    qsizetype keyLength;
     Member Owner::*member;
+
+    constexpr QLatin1StringView name() const { return QLatin1StringView(key, keyLength); }
 };
 
 template <class Owner, class Member>
 constexpr Field<Owner, Member> field(const char* key, Member Owner::*member)
 {
-    return {key, member};
+    return {key, qsizetype(std::char_traits<char>::length(key)), member};
 }
 
 template <class T>
@@ -53,13 +57,45 @@ template <class T>
 struct IsOptional<std::optional<T>> : std::true_type {
 };
 
-// Codec<T>::read(value, out) -> bool and Codec<T>::write(value) -> QJsonValue.
+// A member of a parsed object or array, read where it lies instead of being copied into a value
+// of its own first, with its type looked up once: the codecs ask for it several times.
+class Item {
+public:
+    explicit Item(QJsonValueConstRef ref)
+        : m_ref(ref)
+        , m_type(ref.type())
+    {
+    }
+
+    bool isNull() const { return m_type == QJsonValue::Null; }
+    bool isBool() const { return m_type == QJsonValue::Bool; }
+    bool isDouble() const { return m_type == QJsonValue::Double; }
+    bool isString() const { return m_type == QJsonValue::String; }
+    bool isArray() const { return m_type == QJsonValue::Array; }
+    bool isObject() const { return m_type == QJsonValue::Object; }
+    bool isUndefined() const { return m_type == QJsonValue::Undefined; }
+    bool toBool() const { return m_ref.toBool(); }
+    double toDouble() const { return m_ref.toDouble(); }
+    qint64 toInteger() const { return m_ref.toInteger(); }
+    QString toString() const { return m_ref.toString(); }
+    QJsonArray toArray() const { return m_ref.toArray(); }
+    QJsonObject toObject() const { return m_ref.toObject(); }
+    explicit operator QJsonValue() const { return m_ref; }
+
+private:
+    QJsonValueConstRef m_ref;
+    QJsonValue::Type m_type;
+};
+
+// Codec<T>::read(value, out) -> bool and Codec<T>::write(value) -> QJsonValue. Reading takes a
+// QJsonValue or an Item.
 template <class T>
 struct Codec;
 
 template <>
 struct Codec<bool> {
-    static bool read(const QJsonValue& v, bool& out)
+    template <class V>
+    static bool read(const V& v, bool& out)
     {
         if (!v.isBool())
             return false;
@@ -71,7 +107,8 @@ struct Codec<bool> {
 
 template <class Int>
 requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>) struct Codec<Int> {
-    static bool read(const QJsonValue& v, Int& out)
+    template <class V>
+    static bool read(const V& v, Int& out)
     {
         if (!v.isDouble())
             return false;
@@ -87,7 +124,8 @@ requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>) struct Codec<Int
 
 template <>
 struct Codec<double> {
-    static bool read(const QJsonValue& v, double& out)
+    template <class V>
+    static bool read(const V& v, double& out)
     {
         if (!v.isDouble())
             return false;
@@ -99,7 +137,8 @@ struct Codec<double> {
 
 template <>
 struct Codec<QString> {
-    static bool read(const QJsonValue& v, QString& out)
+    template <class V>
+    static bool read(const V& v, QString& out)
     {
         if (!v.isString())
             return false;
@@ -112,9 +151,10 @@ struct Codec<QString> {
 // Any JSON at all, kept as it came: for fields whose shape is the service's free choice.
 template <>
 struct Codec<QJsonValue> {
-    static bool read(const QJsonValue& v, QJsonValue& out)
+    template <class V>
+    static bool read(const V& v, QJsonValue& out)
     {
-        out = v;
+        out = QJsonValue(v);
         return true;
     }
     static QJsonValue write(const QJsonValue& v) { return v; }
@@ -122,17 +162,16 @@ struct Codec<QJsonValue> {
 
 template <class T>
 struct Codec<std::optional<T>> {
-    static bool read(const QJsonValue& v, std::optional<T>& out)
+    template <class V>
+    static bool read(const V& v, std::optional<T>& out)
     {
         if (v.isNull() || v.isUndefined()) {
             out.reset();
             return true;
         }
-        T value{};
-        if (!Codec<T>::read(v, value))
-            return false;
-        out = std::move(value);
-        return true;
+        // A value that does not read fails the whole record, so what is left in `out` then
+        // does not matter.
+        return Codec<T>::read(v, out.emplace());
     }
     static QJsonValue write(const std::optional<T>& v)
     {
@@ -142,18 +181,17 @@ struct Codec<std::optional<T>> {
 
 template <class T>
 struct Codec<std::vector<T>> {
-    static bool read(const QJsonValue& v, std::vector<T>& out)
+    template <class V>
+    static bool read(const V& v, std::vector<T>& out)
     {
         if (!v.isArray())
             return false;
         const QJsonArray array = v.toArray();
         out.clear();
         out.reserve(std::size_t(array.size()));
-        for (const auto& item : array) {
-            T value{};
-            if (!Codec<T>::read(item, value))
+        for (auto it = array.constBegin(); it != array.constEnd(); ++it) {
+            if (!Codec<T>::read(Item(*it), out.emplace_back()))
                 return false;
-            out.push_back(std::move(value));
         }
         return true;
     }
@@ -168,15 +206,16 @@ struct Codec<std::vector<T>> {
 
 template <class T>
 struct Codec<std::map<QString, T>> {
-    static bool read(const QJsonValue& v, std::map<QString, T>& out)
+    template <class V>
+    static bool read(const V& v, std::map<QString, T>& out)
     {
         if (!v.isObject())
             return false;
         const QJsonObject object = v.toObject();
         out.clear();
-        for (auto it = object.begin(); it != object.end(); ++it) {
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
             T value{};
-            if (!Codec<T>::read(it.value(), value))
+            if (!Codec<T>::read(Item(*it), value))
                 return false;
             out.emplace(it.key(), std::move(value));
         }
@@ -193,7 +232,8 @@ struct Codec<std::map<QString, T>> {
 
 template <Record T>
 struct Codec<T> {
-    static bool read(const QJsonValue& v, T& out)
+    template <class V>
+    static bool read(const V& v, T& out)
     {
         if (!v.isObject())
             return false;
@@ -208,7 +248,7 @@ struct Codec<T> {
         QJsonObject object;
         std::apply(
             [&](const auto&... fields) {
-                (object.insert(QLatin1StringView(fields.key),
+                (object.insert(fields.name(),
                                Codec<std::remove_cvref_t<decltype(v.*(fields.member))>>::write(
                                    v.*(fields.member))),
                  ...);
@@ -218,15 +258,24 @@ struct Codec<T> {
     }
 
 private:
+    // One lookup of the key among the object's sorted keys; the value is read where it lies.
     template <class Member>
     static bool readField(const QJsonObject& object, const Field<T, Member>& field, T& out)
     {
-        const QJsonValue value = object.value(QLatin1StringView(field.key));
+        const auto found = object.constFind(field.name());
+        if (found == object.constEnd()) {
+            if constexpr (IsOptional<Member>::value) {
+                (out.*(field.member)).reset();
+                return true;
+            }
+            return false;
+        }
+        const Item item(*found);
         if constexpr (!IsOptional<Member>::value) {
-            if (value.isUndefined() || value.isNull())
+            if (item.isNull())
                 return false;
         }
-        return Codec<Member>::read(value, out.*(field.member));
+        return Codec<Member>::read(item, out.*(field.member));
     }
 };
 
