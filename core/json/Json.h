@@ -16,12 +16,15 @@
 #include <QJsonValue>
 #include <QLatin1StringView>
 #include <QString>
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -230,6 +233,9 @@ struct Codec<std::map<QString, T>> {
     }
 };
 
+// A record's object is walked once, member by member: each key is matched against the record's
+// keys and its value read into the field it names. Fields never met are then checked: a required
+// one fails the record, an optional one is empty.
 template <Record T>
 struct Codec<T> {
     template <class V>
@@ -238,9 +244,19 @@ struct Codec<T> {
         if (!v.isObject())
             return false;
         const QJsonObject object = v.toObject();
-        return std::apply(
-            [&](const auto&... fields) { return (readField(object, fields, out) && ...); },
-            T::jsonFields());
+        std::array<bool, fieldCount> seen{};
+        std::size_t next = 0;
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+            const std::size_t at = find(it.key(), next);
+            if (at == fieldCount)
+                continue;
+            next = at + 1;
+            const std::size_t field = byKey[at].field;
+            seen[field] = true;
+            if (!readers[field](Item(*it), out))
+                return false;
+        }
+        return unseen(seen, out, std::make_index_sequence<fieldCount>());
     }
 
     static QJsonValue write(const T& v)
@@ -258,24 +274,77 @@ struct Codec<T> {
     }
 
 private:
-    // One lookup of the key among the object's sorted keys; the value is read where it lies.
-    template <class Member>
-    static bool readField(const QJsonObject& object, const Field<T, Member>& field, T& out)
+    static constexpr std::size_t fieldCount = std::tuple_size_v<decltype(T::jsonFields())>;
+
+    template <std::size_t I>
+    using MemberAt =
+        std::remove_cvref_t<decltype(std::declval<T&>().*(std::get<I>(T::jsonFields()).member))>;
+
+    struct Key {
+        std::string_view name;
+        std::size_t field = 0;
+    };
+    // The record's keys in the order a parsed object keeps its members: sorted.
+    static constexpr std::array<Key, fieldCount> byKey = [] {
+        std::array<Key, fieldCount> keys{};
+        std::size_t i = 0;
+        std::apply(
+            [&](const auto&... fields) {
+                ((keys[i] = {fields.key, i}, ++i), ...);
+            },
+            T::jsonFields());
+        std::sort(keys.begin(), keys.end(),
+                  [](const Key& a, const Key& b) { return a.name < b.name; });
+        return keys;
+    }();
+
+    // Members arrive in key order, so the key is almost always the one after the last match;
+    // the search goes on round the table for any other, so the order is only a shortcut.
+    static std::size_t find(const QString& key, std::size_t from)
     {
-        const auto found = object.constFind(field.name());
-        if (found == object.constEnd()) {
-            if constexpr (IsOptional<Member>::value) {
-                (out.*(field.member)).reset();
-                return true;
-            }
-            return false;
+        for (std::size_t n = 0; n < fieldCount; ++n) {
+            const std::size_t at = (from + n) % fieldCount;
+            const std::string_view name = byKey[at].name;
+            if (key == QLatin1StringView(name.data(), qsizetype(name.size())))
+                return at;
         }
-        const Item item(*found);
-        if constexpr (!IsOptional<Member>::value) {
+        return fieldCount;
+    }
+
+    template <std::size_t I>
+    static bool readAt(const Item& item, T& out)
+    {
+        if constexpr (!IsOptional<MemberAt<I>>::value) {
             if (item.isNull())
                 return false;
         }
-        return Codec<Member>::read(item, out.*(field.member));
+        return Codec<MemberAt<I>>::read(item, out.*(std::get<I>(T::jsonFields()).member));
+    }
+
+    using Reader = bool (*)(const Item&, T&);
+    template <std::size_t... I>
+    static constexpr std::array<Reader, fieldCount> makeReaders(std::index_sequence<I...>)
+    {
+        return {&readAt<I>...};
+    }
+    static constexpr std::array<Reader, fieldCount> readers =
+        makeReaders(std::make_index_sequence<fieldCount>());
+
+    template <std::size_t... I>
+    static bool unseen(const std::array<bool, fieldCount>& seen, T& out, std::index_sequence<I...>)
+    {
+        [[maybe_unused]] const auto check = [&](auto index) {
+            constexpr std::size_t at = decltype(index)::value;
+            if (seen[at])
+                return true;
+            if constexpr (IsOptional<MemberAt<at>>::value) {
+                (out.*(std::get<at>(T::jsonFields()).member)).reset();
+                return true;
+            } else {
+                return false;
+            }
+        };
+        return (check(std::integral_constant<std::size_t, I>()) && ...);
     }
 };
 
