@@ -303,7 +303,7 @@ private:
     static std::size_t find(const QString& key, std::size_t from)
     {
         for (std::size_t n = 0; n < fieldCount; ++n) {
-            const std::size_t at = (from + n) % fieldCount;
+            const std::size_t at = from + n < fieldCount ? from + n : from + n - fieldCount;
             const std::string_view name = byKey[at].name;
             if (key == QLatin1StringView(name.data(), qsizetype(name.size())))
                 return at;
