@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QIcon>
+#include <QPointer>
 #include <QPushButton>
 #include <functional>
+
+class QMessageBox;
 
 namespace vl {
 
@@ -20,6 +23,7 @@ public:
     };
 
     ConfirmRow(const QIcon& icon, std::function<void()> action, QWidget* parent = nullptr);
+    ~ConfirmRow() override;
 
     void setTexts(Texts texts);
     bool asking() const { return m_asking; }
@@ -29,10 +33,14 @@ Q_SIGNALS:
 
 private:
     void ask();
+    void answered(bool yes);
 
     std::function<void()> m_action;
     Texts m_texts;
     bool m_asking = false;
+    // The question belongs to the window, not to the row: the action may delete the row (a
+    // screen rebuilding its rows after a sign-out) while the question is still closing.
+    QPointer<QMessageBox> m_question;
 };
 
 } // namespace vl

@@ -3,6 +3,7 @@
 #include "app/platform/PendingWrites.h"
 #include "app/platform/SecretStore.h"
 #include "app/service/SessionCookieJar.h"
+#include "app/service/StoredCookies.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkCookie>
@@ -37,15 +38,11 @@ QCoro::Task<> CookieVault::restore()
         co_return;
     const QList<QNetworkCookie> present = m_jar->cookiesForUrl(m_site);
     QList<QNetworkCookie> restored;
-    const auto lines = kept->split(u'\n', Qt::SkipEmptyParts);
-    for (const QString& line : lines) {
-        for (const QNetworkCookie& cookie : QNetworkCookie::parseCookies(line.toUtf8())) {
-            const bool newer = std::any_of(present.begin(), present.end(), [&](const auto& c) {
-                return c.name() == cookie.name();
-            });
-            if (!newer)
-                restored.append(cookie);
-        }
+    for (const QNetworkCookie& cookie : readStoredCookies(*kept)) {
+        const bool newer = std::any_of(present.begin(), present.end(),
+                                       [&](const auto& c) { return c.name() == cookie.name(); });
+        if (!newer)
+            restored.append(cookie);
     }
     m_restoring = true;
     m_jar->setCookiesFromUrl(restored, m_site);
@@ -61,14 +58,11 @@ QCoro::Task<> CookieVault::save()
     QPointer self(this);
     while (self && m_dirty) {
         m_dirty = false;
-        QStringList lines;
         const auto cookies = m_jar->cookiesForUrl(m_site);
-        for (const QNetworkCookie& cookie : cookies)
-            lines.append(QString::fromUtf8(cookie.toRawForm(QNetworkCookie::Full)));
-        if (lines.isEmpty())
+        if (cookies.isEmpty())
             co_await m_secrets.remove(QString::fromLatin1(storeKey));
         else
-            co_await m_secrets.set(lines.join(u'\n'), QString::fromLatin1(storeKey));
+            co_await m_secrets.set(writeStoredCookies(cookies), QString::fromLatin1(storeKey));
     }
     if (self)
         m_saving = false;

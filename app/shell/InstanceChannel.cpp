@@ -1,18 +1,19 @@
 #include "app/shell/InstanceChannel.h"
 
+#include "core/navigation/HandOverReader.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <memory>
 
 namespace vl {
 
 namespace {
 
 constexpr int handOverTimeoutMs = 1000;
-// Far above any link; a peer that sends more without ending its line is dropped.
-constexpr qint64 longestLine = 64 * 1024;
 
 } // namespace
 
@@ -52,11 +53,12 @@ bool InstanceChannel::listen()
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* socket = m_server->nextPendingConnection()) {
             connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-            socket->setReadBufferSize(longestLine + 1);
-            connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-                while (socket->canReadLine())
-                    Q_EMIT linkReceived(QString::fromUtf8(socket->readLine()).trimmed());
-                if (socket->bytesAvailable() > longestLine)
+            auto reader = std::make_shared<HandOverReader>();
+            connect(socket, &QLocalSocket::readyRead, this, [this, socket, reader] {
+                const QStringList links = reader->feed(socket->readAll());
+                for (const QString& link : links)
+                    Q_EMIT linkReceived(link);
+                if (reader->overflowed())
                     socket->abort();
             });
         }

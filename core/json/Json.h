@@ -16,11 +16,15 @@
 #include <QJsonValue>
 #include <QLatin1StringView>
 #include <QString>
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <map>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -31,13 +35,16 @@ namespace vl::json {
 template <class Owner, class Member>
 struct Field {
     const char* key;
+    qsizetype keyLength;
     Member Owner::*member;
+
+    constexpr QLatin1StringView name() const { return QLatin1StringView(key, keyLength); }
 };
 
 template <class Owner, class Member>
 constexpr Field<Owner, Member> field(const char* key, Member Owner::*member)
 {
-    return {key, member};
+    return {key, qsizetype(std::char_traits<char>::length(key)), member};
 }
 
 template <class T>
@@ -53,13 +60,45 @@ template <class T>
 struct IsOptional<std::optional<T>> : std::true_type {
 };
 
-// Codec<T>::read(value, out) -> bool and Codec<T>::write(value) -> QJsonValue.
+// A member of a parsed object or array, read where it lies instead of being copied into a value
+// of its own first, with its type looked up once: the codecs ask for it several times.
+class Item {
+public:
+    explicit Item(QJsonValueConstRef ref)
+        : m_ref(ref)
+        , m_type(ref.type())
+    {
+    }
+
+    bool isNull() const { return m_type == QJsonValue::Null; }
+    bool isBool() const { return m_type == QJsonValue::Bool; }
+    bool isDouble() const { return m_type == QJsonValue::Double; }
+    bool isString() const { return m_type == QJsonValue::String; }
+    bool isArray() const { return m_type == QJsonValue::Array; }
+    bool isObject() const { return m_type == QJsonValue::Object; }
+    bool isUndefined() const { return m_type == QJsonValue::Undefined; }
+    bool toBool() const { return m_ref.toBool(); }
+    double toDouble() const { return m_ref.toDouble(); }
+    qint64 toInteger() const { return m_ref.toInteger(); }
+    QString toString() const { return m_ref.toString(); }
+    QJsonArray toArray() const { return m_ref.toArray(); }
+    QJsonObject toObject() const { return m_ref.toObject(); }
+    explicit operator QJsonValue() const { return m_ref; }
+
+private:
+    QJsonValueConstRef m_ref;
+    QJsonValue::Type m_type;
+};
+
+// Codec<T>::read(value, out) -> bool and Codec<T>::write(value) -> QJsonValue. Reading takes a
+// QJsonValue or an Item.
 template <class T>
 struct Codec;
 
 template <>
 struct Codec<bool> {
-    static bool read(const QJsonValue& v, bool& out)
+    template <class V>
+    static bool read(const V& v, bool& out)
     {
         if (!v.isBool())
             return false;
@@ -71,7 +110,8 @@ struct Codec<bool> {
 
 template <class Int>
 requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>) struct Codec<Int> {
-    static bool read(const QJsonValue& v, Int& out)
+    template <class V>
+    static bool read(const V& v, Int& out)
     {
         if (!v.isDouble())
             return false;
@@ -87,7 +127,8 @@ requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>) struct Codec<Int
 
 template <>
 struct Codec<double> {
-    static bool read(const QJsonValue& v, double& out)
+    template <class V>
+    static bool read(const V& v, double& out)
     {
         if (!v.isDouble())
             return false;
@@ -99,7 +140,8 @@ struct Codec<double> {
 
 template <>
 struct Codec<QString> {
-    static bool read(const QJsonValue& v, QString& out)
+    template <class V>
+    static bool read(const V& v, QString& out)
     {
         if (!v.isString())
             return false;
@@ -112,9 +154,10 @@ struct Codec<QString> {
 // Any JSON at all, kept as it came: for fields whose shape is the service's free choice.
 template <>
 struct Codec<QJsonValue> {
-    static bool read(const QJsonValue& v, QJsonValue& out)
+    template <class V>
+    static bool read(const V& v, QJsonValue& out)
     {
-        out = v;
+        out = QJsonValue(v);
         return true;
     }
     static QJsonValue write(const QJsonValue& v) { return v; }
@@ -122,17 +165,16 @@ struct Codec<QJsonValue> {
 
 template <class T>
 struct Codec<std::optional<T>> {
-    static bool read(const QJsonValue& v, std::optional<T>& out)
+    template <class V>
+    static bool read(const V& v, std::optional<T>& out)
     {
         if (v.isNull() || v.isUndefined()) {
             out.reset();
             return true;
         }
-        T value{};
-        if (!Codec<T>::read(v, value))
-            return false;
-        out = std::move(value);
-        return true;
+        // A value that does not read fails the whole record, so what is left in `out` then
+        // does not matter.
+        return Codec<T>::read(v, out.emplace());
     }
     static QJsonValue write(const std::optional<T>& v)
     {
@@ -142,18 +184,17 @@ struct Codec<std::optional<T>> {
 
 template <class T>
 struct Codec<std::vector<T>> {
-    static bool read(const QJsonValue& v, std::vector<T>& out)
+    template <class V>
+    static bool read(const V& v, std::vector<T>& out)
     {
         if (!v.isArray())
             return false;
         const QJsonArray array = v.toArray();
         out.clear();
         out.reserve(std::size_t(array.size()));
-        for (const auto& item : array) {
-            T value{};
-            if (!Codec<T>::read(item, value))
+        for (auto it = array.constBegin(); it != array.constEnd(); ++it) {
+            if (!Codec<T>::read(Item(*it), out.emplace_back()))
                 return false;
-            out.push_back(std::move(value));
         }
         return true;
     }
@@ -168,15 +209,16 @@ struct Codec<std::vector<T>> {
 
 template <class T>
 struct Codec<std::map<QString, T>> {
-    static bool read(const QJsonValue& v, std::map<QString, T>& out)
+    template <class V>
+    static bool read(const V& v, std::map<QString, T>& out)
     {
         if (!v.isObject())
             return false;
         const QJsonObject object = v.toObject();
         out.clear();
-        for (auto it = object.begin(); it != object.end(); ++it) {
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
             T value{};
-            if (!Codec<T>::read(it.value(), value))
+            if (!Codec<T>::read(Item(*it), value))
                 return false;
             out.emplace(it.key(), std::move(value));
         }
@@ -191,16 +233,30 @@ struct Codec<std::map<QString, T>> {
     }
 };
 
+// A record's object is walked once, member by member: each key is matched against the record's
+// keys and its value read into the field it names. Fields never met are then checked: a required
+// one fails the record, an optional one is empty.
 template <Record T>
 struct Codec<T> {
-    static bool read(const QJsonValue& v, T& out)
+    template <class V>
+    static bool read(const V& v, T& out)
     {
         if (!v.isObject())
             return false;
         const QJsonObject object = v.toObject();
-        return std::apply(
-            [&](const auto&... fields) { return (readField(object, fields, out) && ...); },
-            T::jsonFields());
+        std::array<bool, fieldCount> seen{};
+        std::size_t next = 0;
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+            const std::size_t at = find(it.key(), next);
+            if (at == fieldCount)
+                continue;
+            next = at + 1;
+            const std::size_t field = byKey[at].field;
+            seen[field] = true;
+            if (!readers[field](Item(*it), out))
+                return false;
+        }
+        return unseen(seen, out, std::make_index_sequence<fieldCount>());
     }
 
     static QJsonValue write(const T& v)
@@ -208,7 +264,7 @@ struct Codec<T> {
         QJsonObject object;
         std::apply(
             [&](const auto&... fields) {
-                (object.insert(QLatin1StringView(fields.key),
+                (object.insert(fields.name(),
                                Codec<std::remove_cvref_t<decltype(v.*(fields.member))>>::write(
                                    v.*(fields.member))),
                  ...);
@@ -218,15 +274,77 @@ struct Codec<T> {
     }
 
 private:
-    template <class Member>
-    static bool readField(const QJsonObject& object, const Field<T, Member>& field, T& out)
+    static constexpr std::size_t fieldCount = std::tuple_size_v<decltype(T::jsonFields())>;
+
+    template <std::size_t I>
+    using MemberAt =
+        std::remove_cvref_t<decltype(std::declval<T&>().*(std::get<I>(T::jsonFields()).member))>;
+
+    struct Key {
+        std::string_view name;
+        std::size_t field = 0;
+    };
+    // The record's keys in the order a parsed object keeps its members: sorted.
+    static constexpr std::array<Key, fieldCount> byKey = [] {
+        std::array<Key, fieldCount> keys{};
+        std::size_t i = 0;
+        std::apply(
+            [&](const auto&... fields) {
+                ((keys[i] = {fields.key, i}, ++i), ...);
+            },
+            T::jsonFields());
+        std::sort(keys.begin(), keys.end(),
+                  [](const Key& a, const Key& b) { return a.name < b.name; });
+        return keys;
+    }();
+
+    // Members arrive in key order, so the key is almost always the one after the last match;
+    // the search goes on round the table for any other, so the order is only a shortcut.
+    static std::size_t find(const QString& key, std::size_t from)
     {
-        const QJsonValue value = object.value(QLatin1StringView(field.key));
-        if constexpr (!IsOptional<Member>::value) {
-            if (value.isUndefined() || value.isNull())
+        for (std::size_t n = 0; n < fieldCount; ++n) {
+            const std::size_t at = from + n < fieldCount ? from + n : from + n - fieldCount;
+            const std::string_view name = byKey[at].name;
+            if (key == QLatin1StringView(name.data(), qsizetype(name.size())))
+                return at;
+        }
+        return fieldCount;
+    }
+
+    template <std::size_t I>
+    static bool readAt(const Item& item, T& out)
+    {
+        if constexpr (!IsOptional<MemberAt<I>>::value) {
+            if (item.isNull())
                 return false;
         }
-        return Codec<Member>::read(value, out.*(field.member));
+        return Codec<MemberAt<I>>::read(item, out.*(std::get<I>(T::jsonFields()).member));
+    }
+
+    using Reader = bool (*)(const Item&, T&);
+    template <std::size_t... I>
+    static constexpr std::array<Reader, fieldCount> makeReaders(std::index_sequence<I...>)
+    {
+        return {&readAt<I>...};
+    }
+    static constexpr std::array<Reader, fieldCount> readers =
+        makeReaders(std::make_index_sequence<fieldCount>());
+
+    template <std::size_t... I>
+    static bool unseen(const std::array<bool, fieldCount>& seen, T& out, std::index_sequence<I...>)
+    {
+        [[maybe_unused]] const auto check = [&](auto index) {
+            constexpr std::size_t at = decltype(index)::value;
+            if (seen[at])
+                return true;
+            if constexpr (IsOptional<MemberAt<at>>::value) {
+                (out.*(std::get<at>(T::jsonFields()).member)).reset();
+                return true;
+            } else {
+                return false;
+            }
+        };
+        return (check(std::integral_constant<std::size_t, I>()) && ...);
     }
 };
 

@@ -196,6 +196,8 @@ TEST_F(GateView, TheAccountOffersEachWayOutWithAConfirmationAndStoresTheSide)
     saveScreenshot(window.get(), QStringLiteral("account-sign-out-en"));
     ask->findChild<QPushButton*>(QStringLiteral("vl.accountScreen.signOut.confirm.no"))->click();
     EXPECT_TRUE(context->candidate.signedIn());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(part<QMessageBox>("vl.accountScreen.signOut.confirm")); // gone once closed
     part<QPushButton>("vl.accountScreen.signOut")->click();
     part<QMessageBox>("vl.accountScreen.signOut.confirm")
         ->findChild<QPushButton*>(QStringLiteral("vl.accountScreen.signOut.confirm.yes"))

@@ -58,6 +58,26 @@ TEST(StrictReading, UnknownKeysAreIgnoredAndIntegersMustBeWhole)
     EXPECT_FALSE(json::decode<JobSummary>("[]"));
 }
 
+TEST(StrictReading, ListsAndNestedRecordsFailWhole)
+{
+    const QByteArray good = jobJson();
+    const auto two = json::decode<std::vector<JobSummary>>("[" + good + "," + good + "]");
+    ASSERT_TRUE(two);
+    EXPECT_EQ(two->size(), 2u);
+    // One item that does not read fails the list, wherever it stands.
+    EXPECT_FALSE(json::decode<std::vector<JobSummary>>("[" + good + R"(,{"ref":"VL2"}])"));
+    EXPECT_FALSE(json::decode<std::vector<JobSummary>>("[" + good + ",null]"));
+    // A nested record that is null where it is optional reads as absent; a key that only
+    // differs in case is an unknown key.
+    const auto job = json::decode<JobSummary>(jobJson(R"(,"fit":null,"Ref":7)"));
+    ASSERT_TRUE(job);
+    EXPECT_FALSE(job->fit);
+    EXPECT_EQ(job->ref, QStringLiteral("VL1"));
+    // The same object read from a value and from bytes reads the same.
+    const QJsonObject object = QJsonDocument::fromJson(good).object();
+    EXPECT_EQ(json::read<JobSummary>(QJsonValue(object)), json::decode<JobSummary>(good));
+}
+
 TEST(StrictReading, WritingGivesBackWhatWasRead)
 {
     const auto job = json::decode<JobSummary>(
