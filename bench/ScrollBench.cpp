@@ -129,7 +129,7 @@ int main(int argc, char** argv)
     }
     const qint64 loadMs = loading.elapsed();
 
-    vl::LedgerModel ledger(board);
+    vl::LedgerModel ledger(board, scheduler);
     ledger.setLang(vl::Lang::en);
     QListView view;
     vl::Theme::setRole(&view, "ledger");

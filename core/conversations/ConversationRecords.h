@@ -80,6 +80,7 @@ namespace json {
 template <>
 struct Codec<CallLogDTO> {
     static bool read(const QJsonValue& v, CallLogDTO& out);
+    static bool read(const Item& v, CallLogDTO& out) { return read(QJsonValue(v), out); }
     static QJsonValue write(const CallLogDTO& v);
 };
 

@@ -13,6 +13,7 @@ namespace json {
 template <>
 struct Codec<QDateTime> {
     static bool read(const QJsonValue& v, QDateTime& out);
+    static bool read(const Item& v, QDateTime& out) { return read(QJsonValue(v), out); }
     static QJsonValue write(const QDateTime& v);
 };
 
