@@ -396,6 +396,14 @@ TEST_F(DesktopWindowTest, SavedRowsComeBackWithUndoAtTheirPlace)
     EXPECT_EQ(context->saved.refs(), before);
     EXPECT_FALSE(undo->isVisible());
 
+    // Rows taken from both ends come back to both ends.
+    list->setCurrentRow(0);
+    list->item(2)->setSelected(true);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(rowRefs(*list), QStringList{before[1]});
+    QTest::mouseClick(undo, Qt::LeftButton);
+    EXPECT_EQ(context->saved.refs(), before);
+
     // In Georgian the menu opens with Open, and Remove offers the same undo, in Georgian.
     context->appState.setLang(Lang::ka);
     list->setCurrentRow(2);
