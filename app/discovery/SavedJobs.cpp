@@ -91,6 +91,32 @@ void SavedJobs::remove(const QString& ref)
         store();
 }
 
+void SavedJobs::restore(const std::vector<Placed>& removed)
+{
+    loadOnce();
+    bool changedAny = false;
+    for (const Placed& placed : removed) {
+        if (contains(placed.entry.ref))
+            continue;
+        const auto at = std::min(placed.at, m_entries.size());
+        m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(at), placed.entry);
+        changedAny = true;
+    }
+    if (changedAny)
+        store();
+}
+
+std::vector<SavedJobs::Placed> SavedJobs::placesOf(const QStringList& refs) const
+{
+    loadOnce();
+    std::vector<Placed> placed;
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (refs.contains(m_entries[i].ref))
+            placed.push_back(Placed{i, m_entries[i]});
+    }
+    return placed;
+}
+
 void SavedJobs::store()
 {
     m_preferences.setValue(QString::fromLatin1(key), json::encode(m_entries));

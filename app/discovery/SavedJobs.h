@@ -31,6 +31,12 @@ public:
         bool operator==(const Entry&) const = default;
     };
 
+    // An entry with the place it held in the list when it was removed.
+    struct Placed {
+        std::size_t at = 0;
+        Entry entry;
+    };
+
     using Clock = std::function<QDateTime()>;
     static constexpr const char* key = "vl.savedJobs";
 
@@ -43,6 +49,10 @@ public:
     void toggle(const JobSummary& job);
     void toggle(const JobDetail& job);
     void remove(const QString& ref);
+    // Puts removed entries back where they were, in one write; `removed` is in ascending order of
+    // place. An entry saved again meanwhile stays where it is now.
+    void restore(const std::vector<Placed>& removed);
+    std::vector<Placed> placesOf(const QStringList& refs) const;
 
     static double referenceSeconds(const QDateTime& date);
 

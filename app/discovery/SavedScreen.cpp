@@ -2,7 +2,9 @@
 
 #include "app/kit/SavedRowDelegate.h"
 #include "app/kit/Theme.h"
+#include "app/kit/UndoBar.h"
 #include "app/shell/AppContext.h"
+#include "core/l10n/DesktopText.h"
 #include "core/l10n/L10n.h"
 
 #include <QClipboard>
@@ -15,6 +17,7 @@
 #include <QStackedWidget>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace vl {
 
@@ -47,8 +50,7 @@ SavedScreen::SavedScreen(AppContext& context, QWidget* parent)
             return;
         QMenu menu(this);
         menu.setObjectName(QStringLiteral("vl.saved.menu"));
-        fillMenu(menu, item->data(Qt::UserRole).toString(),
-                 item->data(SavedRowDelegate::TitleRole).toString());
+        fillMenu(menu, item->data(Qt::UserRole).toString());
         menu.exec(m_list->viewport()->mapToGlobal(at));
     });
     m_states->addWidget(m_list);
@@ -61,11 +63,15 @@ SavedScreen::SavedScreen(AppContext& context, QWidget* parent)
     Theme::setRole(m_empty, "subtitle");
     m_states->addWidget(m_empty);
 
+    m_undo = new UndoBar(this);
+    connect(m_undo, &UndoBar::undoRequested, this, &SavedScreen::undoRemoval);
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 12);
     layout->setSpacing(12);
     layout->addWidget(m_title);
     layout->addWidget(m_states, 1);
+    layout->addWidget(m_undo);
 
     connect(&context.saved, &SavedJobs::changed, this, &SavedScreen::rebuild);
     connect(&context.appState, &AppState::langChanged, this, &SavedScreen::retext);
@@ -78,6 +84,7 @@ void SavedScreen::retext()
     const Lang lang = m_context.appState.lang();
     m_title->setText(L10n::text(Key::savedJobs, lang));
     m_empty->setText(QStringLiteral("☆\n\n") + L10n::text(Key::savedEmpty, lang));
+    m_undo->setButtonText(L10n::text(L10n::DesktopKey::undo, lang));
     rebuild();
 }
 
@@ -108,11 +115,11 @@ QString SavedScreen::webLink(const QString& ref) const
     return m_context.site() + QStringLiteral("/vacancy/") + ref;
 }
 
-// The row's menu: its title opens it here; then the link, the site and removal.
-void SavedScreen::fillMenu(QMenu& menu, const QString& ref, const QString& title)
+// The row's menu: Open shows it here; then the link, the site and removal.
+void SavedScreen::fillMenu(QMenu& menu, const QString& ref)
 {
     const Lang lang = m_context.appState.lang();
-    QAction* open = menu.addAction(title);
+    QAction* open = menu.addAction(L10n::text(L10n::DesktopKey::open, lang));
     open->setObjectName(QStringLiteral("vl.saved.menu.open"));
     QFont bold = open->font();
     bold.setBold(true);
@@ -138,8 +145,20 @@ void SavedScreen::removeSelected()
     QStringList refs;
     for (const QListWidgetItem* item : m_list->selectedItems())
         refs << item->data(Qt::UserRole).toString();
+    if (refs.isEmpty())
+        return;
+    m_removed = m_context.saved.placesOf(refs);
+    QStringList titles;
+    for (const SavedJobs::Placed& placed : m_removed)
+        titles << placed.entry.title;
     for (const QString& ref : refs)
         m_context.saved.remove(ref);
+    m_undo->offer(titles.join(QStringLiteral(", ")));
+}
+
+void SavedScreen::undoRemoval()
+{
+    m_context.saved.restore(std::exchange(m_removed, {}));
 }
 
 bool SavedScreen::eventFilter(QObject* watched, QEvent* event)

@@ -9,12 +9,14 @@
 #include "app/kit/Theme.h"
 #include "app/shell/AppContext.h"
 #include "app/shell/BuildNumber.h"
+#include "app/window/AboutDialog.h"
 #include "app/window/AccountMenu.h"
 #include "app/window/AccountScreen.h"
 #include "app/window/DoorSheet.h"
 #include "app/window/SettingsWindow.h"
 #include "app/window/UpdateBanner.h"
 #include "app/window/UpdateRequiredScreen.h"
+#include "core/l10n/DesktopText.h"
 #include "core/l10n/L10n.h"
 
 #include <QActionGroup>
@@ -181,6 +183,10 @@ void MainWindow::buildMenus()
     // The application's own menu carries its name, as on every desktop that has one.
     m_appMenu = menuBar()->addMenu(QStringLiteral("Velmora"));
     m_appMenu->setObjectName(QStringLiteral("vl.menu.app"));
+    m_about = m_appMenu->addAction(QString());
+    m_about->setObjectName(QStringLiteral("vl.action.about"));
+    m_about->setMenuRole(QAction::AboutRole);
+    connect(m_about, &QAction::triggered, this, &MainWindow::openAbout);
     m_checkUpdates = m_appMenu->addAction(QString());
     m_checkUpdates->setObjectName(QStringLiteral("vl.action.checkUpdates"));
     connect(m_checkUpdates, &QAction::triggered, this,
@@ -287,6 +293,7 @@ void MainWindow::retext()
     const Lang lang = m_context.appState.lang();
     m_checkUpdates->setText(L10n::text(Key::macCheckUpdates, lang));
     m_settings->setText(L10n::text(Key::macGeneral, lang));
+    m_about->setText(L10n::text(L10n::DesktopKey::aboutApp, lang));
     m_quit->setText(L10n::text(Key::mbQuit, lang));
     m_languageMenu->setTitle(L10n::text(Key::language, lang));
     for (QAction* action : m_languages->actions())
@@ -422,6 +429,17 @@ void MainWindow::openSettings()
     m_settingsWindow->show();
     m_settingsWindow->raise();
     m_settingsWindow->activateWindow();
+}
+
+void MainWindow::openAbout()
+{
+    if (!m_aboutDialog) {
+        m_aboutDialog = new AboutDialog(m_context.appState, m_context.site(), this);
+        m_aboutDialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_aboutDialog->show();
+    m_aboutDialog->raise();
+    m_aboutDialog->activateWindow();
 }
 
 void MainWindow::openOnSite(const QString& path)

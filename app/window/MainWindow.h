@@ -56,6 +56,7 @@ private:
     void refreshListingMenu();
     void openOnSite(const QString& path);
     void openSettings();
+    void openAbout();
     void openDoor();
     // The job seeker's sign-in in front of the account, or the account itself.
     void openAccount(bool signInFirst);
@@ -69,6 +70,7 @@ private:
     QMenu* m_languageMenu = nullptr;
     QAction* m_checkUpdates = nullptr;
     QAction* m_settings = nullptr;
+    QAction* m_about = nullptr;
     QAction* m_quit = nullptr;
     QMenu* m_listingMenu = nullptr;
     QMenu* m_goMenu = nullptr;
@@ -101,6 +103,7 @@ private:
     QPointer<LoginSheet> m_loginSheet;
     QPointer<QDialog> m_accountSheet;
     QPointer<QDialog> m_settingsWindow;
+    QPointer<QDialog> m_aboutDialog;
     bool m_gateClosed = false;
 };
 

@@ -4,12 +4,13 @@
 
 class QComboBox;
 class QLabel;
+class QTabWidget;
 
 namespace vl {
 
 class AppState;
 
-// The settings window's general part: the language, this build's version and number, and how
+// The settings window. Its General tab holds the language, this build's version and number, and how
 // light and dark are chosen, with a word about the client below.
 class SettingsWindow : public QDialog {
     Q_OBJECT
@@ -20,6 +21,7 @@ private:
     void retext();
 
     AppState& m_appState;
+    QTabWidget* m_tabs = nullptr;
     QComboBox* m_language = nullptr;
     QLabel* m_languageLabel = nullptr;
     QLabel* m_versionLabel = nullptr;

@@ -2,10 +2,12 @@
 #include "app/discovery/LedgerModel.h"
 #include "app/kit/Palette.h"
 #include "app/kit/Theme.h"
+#include "app/kit/UndoBar.h"
 #include "app/platform/ColorSchemeSource.h"
 #include "app/shell/BuildNumber.h"
 #include "app/window/MainWindow.h"
 #include "core/format/Format.h"
+#include "core/l10n/DesktopText.h"
 #include "core/l10n/L10n.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
@@ -21,10 +23,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTabWidget>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace vl;
@@ -331,5 +337,134 @@ TEST_F(DesktopWindowTest, TheSettingsWindowSpeaksTheLanguageItSets)
     QTest::qWait(50);
     saveScreenshot(settings, QStringLiteral("settings-ka"));
     settings->close();
+    context->appState.setLang(Lang::en);
+}
+
+namespace {
+
+QStringList rowRefs(const QListWidget& list)
+{
+    QStringList refs;
+    for (int i = 0; i < list.count(); ++i)
+        refs << list.item(i)->data(Qt::UserRole).toString();
+    return refs;
+}
+
+// Opens a row's context menu and reads it once it shows; `act` then picks from it.
+QStringList menuTexts(QListWidget& list, int row, const std::function<void(QMenu&)>& act)
+{
+    QStringList texts;
+    QTimer::singleShot(100, &list, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        for (const QAction* action : menu->actions()) {
+            if (!action->isSeparator())
+                texts << action->text();
+        }
+        act(*menu);
+    });
+    Q_EMIT list.customContextMenuRequested(list.visualItemRect(list.item(row)).center());
+    return texts;
+}
+
+} // namespace
+
+TEST_F(DesktopWindowTest, SavedRowsComeBackWithUndoAtTheirPlace)
+{
+    const auto& items = window.board()->model().items();
+    ASSERT_GE(items.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i)
+        context->saved.toggle(items[i]);
+    context->nav.setSection(MacSection::saved);
+    auto* list = window.findChild<QListWidget*>(QStringLiteral("vl.saved.list"));
+    ASSERT_NE(list, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(list));
+    const QStringList before = rowRefs(*list);
+    ASSERT_EQ(before.size(), 3);
+
+    list->setCurrentRow(1);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(rowRefs(*list), (QStringList{before[0], before[2]}));
+    EXPECT_FALSE(context->saved.contains(before[1]));
+    auto* undo = window.findChild<QPushButton*>(QStringLiteral("vl.undo.button"));
+    ASSERT_NE(undo, nullptr);
+    EXPECT_TRUE(undo->isVisible());
+    EXPECT_EQ(undo->text(), L10n::text(L10n::DesktopKey::undo, Lang::en));
+    QTest::mouseClick(undo, Qt::LeftButton);
+    EXPECT_EQ(rowRefs(*list), before);
+    EXPECT_EQ(context->saved.refs(), before);
+    EXPECT_FALSE(undo->isVisible());
+
+    // Rows taken from both ends come back to both ends.
+    list->setCurrentRow(0);
+    list->item(2)->setSelected(true);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(rowRefs(*list), QStringList{before[1]});
+    QTest::mouseClick(undo, Qt::LeftButton);
+    EXPECT_EQ(context->saved.refs(), before);
+
+    // In Georgian the menu opens with Open, and Remove offers the same undo, in Georgian.
+    context->appState.setLang(Lang::ka);
+    list->setCurrentRow(2);
+    const QStringList texts = menuTexts(*list, 2, [](QMenu& menu) {
+        menu.findChild<QAction*>(QStringLiteral("vl.saved.menu.remove"))->trigger();
+        menu.close();
+    });
+    ASSERT_FALSE(texts.isEmpty());
+    EXPECT_EQ(texts.front(), L10n::text(L10n::DesktopKey::open, Lang::ka));
+    EXPECT_EQ(rowRefs(*list), (QStringList{before[0], before[1]}));
+    EXPECT_EQ(undo->text(), L10n::text(L10n::DesktopKey::undo, Lang::ka));
+    saveScreenshot(&window, QStringLiteral("saved-undo-ka"));
+    QTest::mouseClick(undo, Qt::LeftButton);
+    EXPECT_EQ(rowRefs(*list), before);
+
+    // Left alone, the bar goes and the removal stands.
+    list->setCurrentRow(0);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !undo->isVisible(); }, UndoBar::shownMs + 2000));
+    EXPECT_EQ(context->saved.refs(), (QStringList{before[1], before[2]}));
+    context->appState.setLang(Lang::en);
+}
+
+TEST_F(DesktopWindowTest, AboutShowsTheVersionAndTheDesktopTextsSpeakGeorgian)
+{
+    auto* aboutAction = window.findChild<QAction*>(QStringLiteral("vl.action.about"));
+    ASSERT_NE(aboutAction, nullptr);
+    EXPECT_EQ(aboutAction->text(), L10n::text(L10n::DesktopKey::aboutApp, Lang::en));
+    EXPECT_TRUE(
+        window.findChild<QMenu*>(QStringLiteral("vl.menu.app"))->actions().contains(aboutAction));
+    aboutAction->trigger();
+    auto* about = window.findChild<QDialog*>(QStringLiteral("vl.about"));
+    ASSERT_NE(about, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(about));
+    const QLabel* versionLabel = about->findChild<QLabel*>(QStringLiteral("vl.about.version"));
+    const QString version = versionLabel->text();
+    EXPECT_TRUE(version.contains(QStringLiteral(VELMORA_VERSION))) << version.toStdString();
+    EXPECT_TRUE(version.contains(QString::number(runningBuildNumber()))) << version.toStdString();
+    EXPECT_TRUE(about->findChild<QLabel*>(QStringLiteral("vl.about.site"))
+                    ->text()
+                    .contains(sandbox.site()));
+
+    window.findChild<QAction*>(QStringLiteral("vl.action.settings"))->trigger();
+    auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("vl.settings.tabs"));
+    ASSERT_NE(tabs, nullptr);
+    EXPECT_EQ(tabs->count(), 1);
+    EXPECT_EQ(tabs->tabText(0), L10n::text(L10n::DesktopKey::general, Lang::en));
+
+    context->appState.setLang(Lang::ka);
+    const QRegularExpression latin(QStringLiteral("[A-Za-z]"));
+    const QStringList shown{aboutAction->text(), about->windowTitle(), versionLabel->text(),
+                            tabs->tabText(0)};
+    for (QString text : shown) {
+        text.remove(QStringLiteral("Velmora"));
+        EXPECT_FALSE(text.contains(latin)) << text.toStdString();
+    }
+    EXPECT_EQ(about->windowTitle(), L10n::text(L10n::DesktopKey::aboutApp, Lang::ka));
+    EXPECT_EQ(tabs->tabText(0), L10n::text(L10n::DesktopKey::general, Lang::ka));
+    QTest::qWait(50);
+    saveScreenshot(about, QStringLiteral("about-ka"));
+    about->close();
+    window.findChild<QDialog*>(QStringLiteral("vl.settings"))->close();
     context->appState.setLang(Lang::en);
 }
