@@ -144,8 +144,7 @@ QCoro::Task<Result<CandidateCvUpdate>> ApplyingAPI::updateCv(QString ref, QStrin
     form.textIfAny(QStringLiteral("note"), note);
     form.file(QStringLiteral("cv"), cv.filename, cv.mime, cv.data);
     return m_api.call<CandidateCvUpdate>(
-        multipart(QStringLiteral("candidate/") + ref + QStringLiteral("/cv"),
-                  std::move(form)),
+        multipart(QStringLiteral("candidate/") + ref + QStringLiteral("/cv"), std::move(form)),
         owner);
 }
 
@@ -154,8 +153,8 @@ QCoro::Task<Result<QByteArray>> ApplyingAPI::cvFile(QString ref, QString key, QO
     APIClient::Query query;
     if (!key.isEmpty())
         query[QStringLiteral("key")] = key;
-    const APIClient::Request request = privateRead(
-        QStringLiteral("candidate/") + ref + QStringLiteral("/cv"), std::move(query));
+    const APIClient::Request request =
+        privateRead(QStringLiteral("candidate/") + ref + QStringLiteral("/cv"), std::move(query));
     QNetworkReply* reply = m_api.send(request, owner);
     const HttpExchange got = co_await finish(reply);
     if (!got.answered())
