@@ -91,10 +91,10 @@ void ApplySheet::build()
         layout->addWidget(field);
     layout->addLayout(cvRow);
     layout->addWidget(m_check);
-    const auto& spec = m_model.job().form;
-    if (spec && !spec->fields.empty()) {
+    const auto& asked = m_model.job().form;
+    if (asked && !asked->fields.empty()) {
         m_questions = new ApplyQuestions(
-            spec->fields, m_model.services().state.lang(),
+            asked->fields, m_model.services().state.lang(),
             [this](const QString& id, const QString& value) { m_model.answers[id] = value; }, form);
         layout->addWidget(m_questions);
     }
