@@ -1,5 +1,6 @@
 #include "app/cli/ApiCommand.h"
 
+#include "app/cli/ApiArgs.h"
 #include "app/cli/ApplyingOperations.h"
 #include "app/cli/CliOutput.h"
 #include "app/shell/AppContext.h"
@@ -14,17 +15,7 @@ namespace vl::cli {
 
 namespace {
 
-using JsonResult = Result<QJsonValue>;
-using Args = QJsonObject;
-
-template <class T>
-QCoro::Task<JsonResult> asJson(QCoro::Task<Result<T>> task)
-{
-    const auto result = co_await std::move(task);
-    if (!result)
-        co_return result.error();
-    co_return json::write(result.value());
-}
+using namespace api;
 
 template <class T>
 QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task)
@@ -36,11 +27,6 @@ QCoro::Task<JsonResult> pageAsJson(QCoro::Task<Result<Page<T>>> task)
                                      {QStringLiteral("meta"), json::write(result->meta)}});
 }
 
-QString text(const Args& args, const char* name)
-{
-    return args.value(QLatin1StringView(name)).toString();
-}
-
 std::optional<QString> optionalText(const Args& args, const char* name)
 {
     const QJsonValue value = args.value(QLatin1StringView(name));
@@ -49,19 +35,9 @@ std::optional<QString> optionalText(const Args& args, const char* name)
     return value.toString();
 }
 
-bool flag(const QJsonObject& args, const char* name)
-{
-    return args.value(QLatin1StringView(name)).toBool();
-}
-
 JobKind kindOf(const Args& args)
 {
     return jobKindOf(text(args, "kind"));
-}
-
-Lang localeOf(AppContext& context, const Args& args)
-{
-    return langFromRaw(text(args, "locale")).value_or(context.appState.lang());
 }
 
 APIClient::QuickPicks picksOf(const Args& args)

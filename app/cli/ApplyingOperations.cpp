@@ -1,6 +1,7 @@
 #include "app/cli/ApplyingOperations.h"
 
 #include "app/applying/ApplyingAPI.h"
+#include "app/cli/ApiArgs.h"
 #include "app/shell/AppContext.h"
 
 #include <QFile>
@@ -10,32 +11,7 @@ namespace vl::cli {
 
 namespace {
 
-using JsonResult = Result<QJsonValue>;
-using Args = QJsonObject;
-
-template <class T>
-QCoro::Task<JsonResult> asJson(QCoro::Task<Result<T>> task)
-{
-    const auto result = co_await std::move(task);
-    if (!result)
-        co_return result.error();
-    co_return json::write(result.value());
-}
-
-QString text(const Args& args, const char* name)
-{
-    return args.value(QLatin1StringView(name)).toString();
-}
-
-bool flag(const Args& args, const char* name)
-{
-    return args.value(QLatin1StringView(name)).toBool();
-}
-
-Lang localeOf(AppContext& context, const Args& args, const char* name = "locale")
-{
-    return langFromRaw(text(args, name)).value_or(context.appState.lang());
-}
+using namespace api;
 
 // The file named by a path argument; its type by its extension, as the sheets decide it.
 std::optional<CvFile> fileOf(const Args& args, const char* name)
