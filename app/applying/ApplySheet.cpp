@@ -79,9 +79,7 @@ void ApplySheet::build()
     m_webForm = make::button(form, "link");
     m_send = make::button(form, "primary");
     m_send->setObjectName(QStringLiteral("applySend"));
-    m_busy = new QProgressBar(form);
-    m_busy->setRange(0, 0);
-    m_busy->setTextVisible(false);
+    m_busy = make::busyBar(form);
 
     layout->addWidget(m_title);
     layout->addLayout(who);

@@ -30,9 +30,7 @@ CvUpdateSheet::CvUpdateSheet(ApplyServices services, QString ref, QString key, C
     m_note = new QLineEdit(this);
     m_error = make::label(this, "error");
     m_send = make::button(this, "primary");
-    m_busy = new QProgressBar(this);
-    m_busy->setRange(0, 0);
-    m_busy->setTextVisible(false);
+    m_busy = make::busyBar(this);
     layout->addWidget(m_hint);
     layout->addWidget(m_left);
     layout->addLayout(row);

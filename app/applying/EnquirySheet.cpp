@@ -28,21 +28,13 @@ EnquirySheet::EnquirySheet(ApplyServices services, JobDetail job, CandidateGate:
     m_message = new QPlainTextEdit(form);
     m_error = make::label(form, "error");
     m_send = make::button(form, "primary");
-    m_busy = new QProgressBar(form);
-    m_busy->setRange(0, 0);
-    m_busy->setTextVisible(false);
+    m_busy = make::busyBar(form);
     for (QWidget* part : {static_cast<QWidget*>(m_title), static_cast<QWidget*>(m_name),
                           static_cast<QWidget*>(m_phone), static_cast<QWidget*>(m_message),
                           static_cast<QWidget*>(m_error), static_cast<QWidget*>(m_send),
                           static_cast<QWidget*>(m_busy)})
         layout->addWidget(part);
-    auto* done = new QWidget;
-    auto* doneLayout = new QVBoxLayout(done);
-    m_sent = make::label(done, "title");
-    m_close = make::button(done, "primary");
-    doneLayout->addWidget(m_sent);
-    doneLayout->addWidget(m_close);
-    doneLayout->addStretch();
+    QWidget* done = make::sentPage(m_sent, m_close);
     auto* pages = new QWidget;
     m_pages = new QStackedLayout(pages);
     m_pages->addWidget(form);

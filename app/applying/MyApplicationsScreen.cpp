@@ -32,9 +32,7 @@ MyApplicationsScreen::MyApplicationsScreen(ApplyServices services, QWidget* pare
     layout->addWidget(m_title);
     layout->addWidget(m_error);
     layout->addWidget(m_retry, 0, Qt::AlignLeft);
-    auto* busy = new QProgressBar(this);
-    busy->setRange(0, 0);
-    busy->setTextVisible(false);
+    auto* busy = make::busyBar(this);
     m_loading = busy;
     m_empty = make::label(this, "subtitle");
     m_empty->setAlignment(Qt::AlignCenter);
