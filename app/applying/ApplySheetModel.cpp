@@ -1,5 +1,6 @@
 #include "app/applying/ApplySheetModel.h"
 
+#include "app/applying/CvChoice.h"
 #include "app/identity/CandidateAuth.h"
 #include "app/identity/CandidateStore.h"
 #include "app/platform/Preferences.h"
@@ -8,7 +9,6 @@
 #include "core/l10n/L10n.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QPointer>
 
 namespace vl {
@@ -48,19 +48,10 @@ QCoro::Task<> ApplySheetModel::open()
 
 bool ApplySheetModel::choose(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    auto picked = CvPick::accept(path, file.readAll());
-    if (const auto* refusal = std::get_if<L10n::Key>(&picked)) {
-        m_error = L10n::text(*refusal, m_services.state.lang());
+    const CvChoice choice = chooseCv(path, m_services.state.lang(), m_cv, m_error);
+    if (choice != CvChoice::unreadable)
         Q_EMIT changed();
-        return false;
-    }
-    m_error.reset();
-    m_cv = std::get<CvFile>(std::move(picked));
-    Q_EMIT changed();
-    return true;
+    return choice == CvChoice::taken;
 }
 
 QCoro::Task<> ApplySheetModel::runCheck()

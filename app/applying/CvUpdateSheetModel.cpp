@@ -1,10 +1,10 @@
 #include "app/applying/CvUpdateSheetModel.h"
 
+#include "app/applying/CvChoice.h"
 #include "app/shell/AppState.h"
 #include "core/applying/CvUpdateRules.h"
 #include "core/l10n/L10n.h"
 
-#include <QFile>
 #include <QPointer>
 
 namespace vl {
@@ -21,19 +21,10 @@ CvUpdateSheetModel::CvUpdateSheetModel(ApplyServices services, QString ref, QStr
 
 bool CvUpdateSheetModel::choose(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    auto picked = CvPick::accept(path, file.readAll());
-    if (const auto* refusal = std::get_if<L10n::Key>(&picked)) {
-        m_error = L10n::text(*refusal, m_services.state.lang());
+    const CvChoice choice = chooseCv(path, m_services.state.lang(), m_file, m_error);
+    if (choice != CvChoice::unreadable)
         Q_EMIT changed();
-        return false;
-    }
-    m_error.reset();
-    m_file = std::get<CvFile>(std::move(picked));
-    Q_EMIT changed();
-    return true;
+    return choice == CvChoice::taken;
 }
 
 QCoro::Task<> CvUpdateSheetModel::send()

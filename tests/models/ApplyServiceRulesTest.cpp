@@ -1,7 +1,7 @@
 #include "app/applying/ApplySheetModel.h"
 #include "app/applying/SeekerPostSheetModel.h"
-#include "app/identity/CandidateGate.h"
 #include "core/l10n/L10n.h"
+#include "tests/support/ApplyingFixture.h"
 #include "tests/support/CvFiles.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
@@ -37,21 +37,10 @@ protected:
     {
         ASSERT_TRUE(sandbox.started()) << sandbox.output().toStdString();
         context->appState.setLang(Lang::en);
-        CandidateGate gate(context->candidate, context->appState,
-                           [](const QUrl&) { return false; });
-        gate.email = email;
-        wait(gate.sendCode());
-        gate.code = sandbox.lastCode(gate.email);
-        wait(gate.verifyCode());
-        ASSERT_TRUE(context->candidate.signedIn());
+        ASSERT_TRUE(test::signInJobSeeker(*context, sandbox, email));
     }
 
-    ApplyServices services()
-    {
-        ApplyServices out = ApplyServices::from(*context);
-        out.lastCvFolder = QDir(data.path()).filePath(QStringLiteral("lastcv"));
-        return out;
-    }
+    ApplyServices services() { return test::applyServicesIn(*context, data.path()); }
 
     // Listings in the board's order that pass the test, from as many pages as it takes.
     std::vector<JobDetail> listings(std::size_t count,

@@ -3,8 +3,8 @@
 #include "app/applying/CvUpdateSheetModel.h"
 #include "app/applying/MyApplicationsModel.h"
 #include "app/applying/SeekerPostSheetModel.h"
-#include "app/identity/CandidateGate.h"
 #include "core/l10n/L10n.h"
+#include "tests/support/ApplyingFixture.h"
 #include "tests/support/CvFiles.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
@@ -33,21 +33,11 @@ protected:
     {
         ASSERT_TRUE(sandbox.started()) << sandbox.output().toStdString();
         context->appState.setLang(Lang::en);
-        CandidateGate gate(context->candidate, context->appState,
-                           [](const QUrl&) { return false; });
-        gate.email = QStringLiteral("levan.gelashvili@gmail.com");
-        wait(gate.sendCode());
-        gate.code = sandbox.lastCode(gate.email);
-        wait(gate.verifyCode());
-        ASSERT_TRUE(context->candidate.signedIn());
+        ASSERT_TRUE(
+            test::signInJobSeeker(*context, sandbox, QStringLiteral("levan.gelashvili@gmail.com")));
     }
 
-    ApplyServices services()
-    {
-        ApplyServices out = ApplyServices::from(*context);
-        out.lastCvFolder = QDir(data.path()).filePath(QStringLiteral("lastcv"));
-        return out;
-    }
+    ApplyServices services() { return test::applyServicesIn(*context, data.path()); }
 
     // The first listings that take applications here, with or without a form of their own.
     JobDetail listing(bool withForm, int skip = 0)

@@ -4,6 +4,7 @@
 #include "app/applying/MyApplicationsScreen.h"
 #include "app/kit/ConfirmRow.h"
 #include "core/l10n/L10n.h"
+#include "tests/support/ApplyingFixture.h"
 #include "tests/support/CvFiles.h"
 #include "tests/support/SandboxProcess.h"
 #include "tests/support/TestContext.h"
@@ -35,21 +36,11 @@ protected:
 
     void signIn()
     {
-        CandidateGate gate(context->candidate, context->appState,
-                           [](const QUrl&) { return false; });
-        gate.email = QStringLiteral("levan.gelashvili@gmail.com");
-        wait(gate.sendCode());
-        gate.code = sandbox.lastCode(gate.email);
-        wait(gate.verifyCode());
-        ASSERT_TRUE(context->candidate.signedIn());
+        ASSERT_TRUE(
+            test::signInJobSeeker(*context, sandbox, QStringLiteral("levan.gelashvili@gmail.com")));
     }
 
-    ApplyServices services()
-    {
-        ApplyServices out = ApplyServices::from(*context);
-        out.lastCvFolder = QDir(data.path()).filePath(QStringLiteral("lastcv"));
-        return out;
-    }
+    ApplyServices services() { return test::applyServicesIn(*context, data.path()); }
 
     // A listing with the employer's own questions, read in the current language; or one
     // without a form.
